@@ -1,0 +1,96 @@
+#include "GPSData.h"
+
+#include "GPSUtils.h"
+#include "HourShift.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdio>
+
+namespace {
+
+constexpr float kKnotsFactor = 1.852f;  // the shown KM/H is the stored speed times this
+constexpr float kSpeedCap = 200.0f;
+
+// printf-style texts; the C locale is the program's numeric locale, so the separator is a full stop.
+std::string format(const char* pattern, double value) {
+    char text[64];
+    std::snprintf(text, sizeof text, pattern, value);
+    return text;
+}
+
+std::string formatTriple(uint32_t a, uint32_t b, uint32_t c, char separator) {
+    char text[48];
+    std::snprintf(text, sizeof text, "%02d%c%02d%c%02d", int(a), separator, int(b), separator, int(c));
+    return text;
+}
+
+float signFrom(char indicator, char positive) { return indicator == positive ? 1.0f : -1.0f; }
+
+bool useKMH() { return GPSUtils::sharedUtils().unitType() != 0; }
+
+void normaliseMP4Form(RMCINFO& f) {
+    f.Latitude = std::fabs((f.Latitude + -187.98216f) / 3.0f) * signFrom(f.NSInd, 'N');
+    f.Longitude = std::fabs((f.Longitude + -2199.1987f) * 0.5f) * signFrom(f.EWInd, 'E');
+    f.Speed = std::fmin(std::fabs(f.Speed), kSpeedCap);
+
+    // The camera's clock runs on UTC; a whole number of hours from the longitude approximates
+    // the local time where the car was.
+    if (!std::isfinite(f.Longitude)) return;
+    const int wholeDegrees = int(std::trunc(std::clamp(f.Longitude, -1e6f, 1e6f)));
+    if (wholeDegrees >= 15 || wholeDegrees <= -15) shiftRecordTimeByHours(f, wholeDegrees / 15);
+}
+
+void normaliseScaledForm(RMCINFO& f) {
+    f.Latitude = f.Latitude * 0.6014019f / 60.0f * signFrom(f.NSInd, 'N');
+    f.Longitude = f.Longitude * 0.6000377f / 60.0f * signFrom(f.EWInd, 'E');
+    f.Speed = f.Speed * 1.15078f;
+}
+
+void normaliseFixedPointForm(RMCINFO& f) {
+    f.Latitude = float(std::bit_cast<int32_t>(f.Latitude)) / 10000000.0f;
+    f.Longitude = float(std::bit_cast<int32_t>(f.Longitude)) / 10000000.0f;
+    const float perHour = float(std::bit_cast<uint32_t>(f.Speed)) / 160.93f;
+    f.Speed = float(std::fmin(double(perHour) * 3.6, double(kSpeedCap)));
+}
+
+}  // namespace
+
+GPSRecordForm GPSData::formOf(const GPSDATA& raw, bool isMP4) {
+    if (isMP4) return GPSRecordForm::MP4;
+    return raw.rmcinfo.Year <= 1999 ? GPSRecordForm::Scaled : GPSRecordForm::FixedPoint;
+}
+
+void GPSData::SetData(GPSDATA record, bool isMP4) {
+    data_ = record;
+    RMCINFO& f = data_.rmcinfo;
+    switch (formOf(record, isMP4)) {
+    case GPSRecordForm::MP4: normaliseMP4Form(f); break;
+    case GPSRecordForm::Scaled: normaliseScaledForm(f); break;
+    case GPSRecordForm::FixedPoint: normaliseFixedPointForm(f); break;
+    }
+    if (f.Year >= 2000) f.Year -= 2000;
+}
+
+float GPSData::Speed() const { return useKMH() ? SpeedKMH() : SpeedMPH(); }
+float GPSData::SpeedMPH() const { return data_.rmcinfo.Speed; }
+float GPSData::SpeedKMH() const { return data_.rmcinfo.Speed * kKnotsFactor; }
+float GPSData::Latitude() const { return data_.rmcinfo.Latitude; }
+float GPSData::Longitude() const { return data_.rmcinfo.Longitude; }
+
+std::string GPSData::SpeedText() const { return useKMH() ? SpeedKMHText() : SpeedMPHText(); }
+std::string GPSData::SpeedMPHText() const { return format("%05.02f", double(SpeedMPH())); }
+std::string GPSData::SpeedKMHText() const { return format("%05.02f", double(SpeedKMH())); }
+std::string GPSData::LatitudeText() const { return format("%08.05f", double(Latitude())); }
+std::string GPSData::LongitudeText() const { return format("%08.05f", double(Longitude())); }
+
+std::string GPSData::DateText() const {
+    const RMCINFO& f = data_.rmcinfo;
+    return formatTriple(f.Month, f.Day, f.Year, '/');
+}
+
+std::string GPSData::TimeText() const {
+    const RMCINFO& f = data_.rmcinfo;
+    return formatTriple(f.Hour, f.Minute, f.Second, ':');
+}

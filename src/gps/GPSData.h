@@ -1,0 +1,43 @@
+#pragma once
+// One GPS sample: the camera's record, normalised once, and every value and text derived from it.
+
+#include "GPSRecord.h"
+
+#include <string>
+
+// The three ways cameras encode the record.
+enum class GPSRecordForm {
+    MP4,         // offset-and-scaled floats; time moved by whole hours from the longitude
+    Scaled,      // floats in minutes, speed in knots (Year <= 1999)
+    FixedPoint,  // integers in 1e-7 degree and cm/s (Year >= 2000)
+};
+
+class GPSData {
+public:
+    GPSData() = default;  // an empty sample: all 76 bytes zero, valid in every respect
+
+    // Unit-dependent: KM/H when the settings store's unitType is not 0, else MPH.
+    float Speed() const;
+    float SpeedMPH() const;
+    float SpeedKMH() const;
+    float Latitude() const;
+    float Longitude() const;
+    GPSDATA data() const { return data_; }
+
+    std::string SpeedText() const;
+    std::string SpeedMPHText() const;
+    std::string SpeedKMHText() const;
+    std::string LatitudeText() const;
+    std::string LongitudeText() const;
+    std::string DateText() const;
+    std::string TimeText() const;
+
+    // Stores and normalises a raw record. Must be applied once: the conversions are not idempotent.
+    void SetData(GPSDATA record, bool isMP4);
+
+    // Which form SetData will decode a raw record as.
+    static GPSRecordForm formOf(const GPSDATA& raw, bool isMP4);
+
+private:
+    GPSDATA data_{};
+};

@@ -1,0 +1,209 @@
+#include "GPSDataLoader.h"
+
+#include "BigEndian.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <cstdint>
+#include <optional>
+
+namespace {
+
+constexpr uint64_t kBoxHeaderSize = 8;
+constexpr std::size_t kMP4FtypPayload = 20;  // major, minor and three compatible brands
+constexpr std::size_t kSoundEntryBytes = 48;
+constexpr uint64_t kChunkAlignment = 32768;
+
+// Reads exactly n bytes at the current position, or nothing.
+std::optional<std::vector<uint8_t>> readExactly(SeekableFile& file, uint64_t n) {
+    // Never allocate more than the file can still give: sizes read from files are not trusted.
+    const uint64_t available = file.size() > file.position() ? file.size() - file.position() : 0;
+    if (n > available) return std::nullopt;
+    std::vector<uint8_t> bytes(n);
+    if (file.read(bytes) != n) return std::nullopt;
+    return bytes;
+}
+
+// Reads up to n bytes, fewer at the end of the file.
+std::vector<uint8_t> readUpTo(SeekableFile& file, uint64_t n) {
+    const uint64_t available = file.size() > file.position() ? file.size() - file.position() : 0;
+    std::vector<uint8_t> bytes(std::min(n, available));
+    bytes.resize(file.read(bytes));
+    return bytes;
+}
+
+// Accumulates accepted samples and the largest stored speed.
+class TrackBuilder {
+public:
+    explicit TrackBuilder(GPSTrack& track) : track_(track) {}
+
+    // Reads the 92-byte block at offset; a block that fails the header test or that the file does
+    // not hold in full is skipped.
+    void addBlockAt(SeekableFile& file, uint64_t offset, bool isMP4) {
+        file.seek(offset);
+        std::array<uint8_t, kGPSBlockSize> block;
+        if (file.read(block) != block.size()) return;
+        if (!GPSDataLoader::isGPSData(block.data())) return;
+
+        const GPSDATA raw = decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block.data() + kGPSHeaderSize, kGPSRecordSize));
+        GPSData sample;
+        sample.SetData(raw, isMP4);
+        max_ = std::max(max_, double(sample.data().rmcinfo.Speed));
+        track_.formCounts[std::size_t(GPSData::formOf(raw, isMP4))]++;
+        track_.samples.push_back(sample);
+    }
+
+    double max() const { return max_; }
+
+private:
+    GPSTrack& track_;
+    double max_ = 0.0;
+};
+
+void readIndexLayout(SeekableFile& file, FileRange gps, bool isMP4, TrackBuilder& builder) {
+    file.seek(gps.location);
+    const std::vector<uint8_t> index = readUpTo(file, gps.length);
+    if (index.size() < 8) return;
+    const uint32_t entryCount = readU32BE(index.data() + 4);
+    // Stop at the entries the index actually holds, whatever its count claims.
+    const uint64_t entriesHeld = (index.size() - 8) / 8;
+    const uint64_t entries = std::min<uint64_t>(entryCount, entriesHeld);
+    for (uint64_t i = 0; i < entries; ++i)
+        builder.addBlockAt(file, readU32BE(index.data() + 8 + 8 * i), isMP4);
+}
+
+// The byte distance from a sound chunk's start to its GPS block: one second of sound rounded up
+// past the next 32 KiB boundary.
+uint64_t chunkGPSOffset(std::span<const uint8_t> soundEntry) {
+    const uint64_t channels = readU16BE(soundEntry.data() + 32);
+    const uint64_t sampleBits = soundEntry[35];
+    const uint64_t rate = readU16BE(soundEntry.data() + 40);
+    const uint64_t bytesPerSecond = channels * rate * sampleBits / 8;
+    return (bytesPerSecond + kChunkAlignment) & ~(kChunkAlignment - 1);
+}
+
+// Walks sibling boxes from offset, stopping at end; the public search is this without a bound.
+FileRange scanForBox(std::string_view name, SeekableFile& file, uint64_t offset, uint64_t end) {
+    if (file.position() != offset) file.seek(offset);
+    std::array<uint8_t, kBoxHeaderSize> header;
+    for (uint64_t at = offset; at < end;) {
+        if (file.read(header) != header.size()) return {};
+        const uint32_t size = readU32BE(header.data());
+        // A box smaller than its own header cannot be stepped over (size 0 would loop for ever),
+        // and its payload cannot be read: the scan ends here.
+        if (size < kBoxHeaderSize) return {};
+        // The type as text up to its first zero byte: a type holding a zero never matches.
+        const char* type = reinterpret_cast<const char*>(header.data() + 4);
+        if (std::string_view(type, strnlen(type, 4)) == name) return {at + kBoxHeaderSize, size - kBoxHeaderSize};
+        at += size;
+        file.seek(at);
+    }
+    return {};
+}
+
+// The end of the header box of the first track without a picture size, searched from the movie
+// box's payload.
+std::optional<uint64_t> findSoundTrackHeaderEnd(SeekableFile& file, uint64_t from) {
+    uint64_t offset = from;
+    for (;;) {
+        const FileRange trak = GPSDataLoader::loadBox("trak", file, offset);
+        if (!trak.found()) return std::nullopt;
+        offset = trak.location + trak.length;
+
+        // Only the track's own header counts; a track without one is skipped. Bounding the search
+        // also keeps files of many tiny tracks from costing quadratic time.
+        const FileRange tkhd = scanForBox("tkhd", file, trak.location, offset);
+        if (!tkhd.found() || tkhd.length < 8 || tkhd.location + tkhd.length > offset) continue;
+        file.seek(tkhd.location + tkhd.length - 8);
+        const auto size = readExactly(file, 8);
+        if (!size) return std::nullopt;
+        const uint32_t width = readU32BE(size->data()) >> 16;
+        const uint32_t height = readU32BE(size->data() + 4) >> 16;
+        if (width == 0 && height == 0) return tkhd.location + tkhd.length;
+    }
+}
+
+void readSoundChunkLayout(SeekableFile& file, uint64_t moovLocation, TrackBuilder& builder, GPSTrack& track) {
+    const std::optional<uint64_t> afterTkhd = findSoundTrackHeaderEnd(file, moovLocation);
+    if (!afterTkhd) return;
+
+    const FileRange mdia = GPSDataLoader::loadBox("mdia", file, *afterTkhd);
+    if (!mdia.found()) return;
+    const FileRange minf = GPSDataLoader::loadBox("minf", file, mdia.location);
+    if (!minf.found()) return;
+    const FileRange stbl = GPSDataLoader::loadBox("stbl", file, minf.location);
+    if (!stbl.found()) return;
+    const FileRange stsd = GPSDataLoader::loadBox("stsd", file, stbl.location);
+    if (!stsd.found()) return;
+    file.seek(stsd.location);
+    const auto soundEntry = readExactly(file, kSoundEntryBytes);
+    if (!soundEntry) return;
+    const uint64_t gpsOffset = chunkGPSOffset(*soundEntry);
+
+    const FileRange stco = GPSDataLoader::loadBox("stco", file, stbl.location);
+    if (!stco.found()) return;
+    track.layout = GPSLayout::SoundChunk;
+    file.seek(stco.location);
+    const auto head = readExactly(file, 8);
+    if (!head) return;
+    const uint32_t entryCount = readU32BE(head->data() + 4);
+    // The table as far as the file holds it.
+    const std::vector<uint8_t> table = readUpTo(file, uint64_t(entryCount) * 4);
+    const uint64_t entries = table.size() / 4;
+    for (uint64_t i = 0; i < entries; ++i)
+        builder.addBlockAt(file, uint64_t(readU32BE(table.data() + 4 * i)) + gpsOffset, false);
+}
+
+}  // namespace
+
+FileRange GPSDataLoader::loadBox(std::string_view name, SeekableFile& file, uint64_t offset) {
+    return scanForBox(name, file, offset, UINT64_MAX);
+}
+
+bool GPSDataLoader::IsMP4(SeekableFile& file, FileRange range) {
+    if (file.position() != range.location) file.seek(range.location);
+    return range.length == kMP4FtypPayload;
+}
+
+bool GPSDataLoader::isGPSData(const uint8_t* header) {
+    if (header == nullptr) return false;
+    return std::memcmp(header + 8, "GPS ", 4) == 0 && header[15] == 0;
+}
+
+GPSTrack GPSDataLoader::LoadTrack(SeekableFile& file) {
+    GPSTrack track;
+    track.opened = true;
+    TrackBuilder builder(track);
+
+    const FileRange ftyp = loadBox("ftyp", file, 0);
+    track.isMP4 = IsMP4(file, ftyp);
+    const FileRange moov = loadBox("moov", file, 0);
+    const FileRange gps = loadBox("gps ", file, moov.location);
+
+    if (gps.found()) {
+        track.layout = GPSLayout::Index;
+        readIndexLayout(file, gps, track.isMP4, builder);
+    } else if (!track.isMP4) {
+        readSoundChunkLayout(file, moov.location, builder, track);
+    }
+    track.maxSpeed = float(builder.max());
+    return track;
+}
+
+GPSTrack GPSDataLoader::LoadTrack(const std::filesystem::path& url) {
+    const std::unique_ptr<PosixFile> file = PosixFile::open(url);
+    if (!file) {
+        GPSTrack track;
+        track.openError = errno;
+        return track;
+    }
+    return LoadTrack(*file);
+}
+
+std::vector<GPSData> GPSDataLoader::LoadGPSDataList(const std::filesystem::path& url, float* maxSpeed) {
+    GPSTrack track = LoadTrack(url);
+    if (maxSpeed) *maxSpeed = track.maxSpeed;
+    return std::move(track.samples);
+}

@@ -1,0 +1,51 @@
+#include "SeekableFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+std::size_t SeekableFile::read(std::span<uint8_t> buffer) {
+    const std::size_t got = readAt(position_, buffer);
+    position_ += got;
+    return got;
+}
+
+std::unique_ptr<PosixFile> PosixFile::open(const std::filesystem::path& path) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return nullptr;
+    struct stat st {};
+    // A folder opens for reading on Linux but is no file to read from.
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
+        const int error = S_ISDIR(st.st_mode) ? EISDIR : errno;
+        ::close(fd);
+        errno = error;
+        return nullptr;
+    }
+    // Blocks lie a second of media apart: read-ahead would pull in pages nobody asked for.
+    ::posix_fadvise(fd, 0, 0, POSIX_FADV_RANDOM);
+    return std::make_unique<PosixFile>(Key{}, fd, uint64_t(st.st_size));
+}
+
+PosixFile::~PosixFile() { ::close(fd_); }
+
+std::size_t PosixFile::readAt(uint64_t offset, std::span<uint8_t> buffer) {
+    if (offset >= size_) return 0;
+    std::size_t done = 0;
+    while (done < buffer.size()) {
+        const ssize_t n = ::pread(fd_, buffer.data() + done, buffer.size() - done, off_t(offset + done));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        done += std::size_t(n);
+    }
+    return done;
+}
+
+std::size_t MemoryFile::readAt(uint64_t offset, std::span<uint8_t> buffer) {
+    if (offset >= bytes_.size()) return 0;
+    const std::size_t n = std::min<uint64_t>(buffer.size(), bytes_.size() - offset);
+    std::copy_n(bytes_.begin() + std::ptrdiff_t(offset), n, buffer.begin());
+    return n;
+}

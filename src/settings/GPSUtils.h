@@ -1,0 +1,60 @@
+#pragma once
+// The one shared settings and utilities object: speed unit, volume, unit vocabulary, the modal
+// flag, and the test of which files are playable movies.
+
+#include "FilePasteboard.h"
+#include "SettingsFile.h"
+#include "VideoTrackProbe.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class GPSUtils {
+public:
+    // The instance for the whole run, made on first call from the standard settings locations.
+    static GPSUtils& sharedUtils();
+
+    // Tests and tools make their own with chosen files and probe.
+    explicit GPSUtils(SettingsLocation location,
+                      std::shared_ptr<const VideoTrackProbe> probe = defaultVideoTrackProbe());
+
+    // 0 MPH, anything else KM/H.
+    uint64_t unitType() const;
+    void setUnitType(uint64_t unitType);
+    float volume() const;
+    void setVolume(float volume);
+
+    static constexpr float defaultMaxSpeed() { return 30.0f; }
+    static std::string TimeUnitName() { return "min"; }
+    static std::string SpeedUnitNameMPH() { return "MPH"; }
+    static std::string SpeedUnitNameKMH() { return "KM/H"; }
+    std::string SpeedUnitName() const;
+    // A speed rounded up to a multiple of ten (whole and negative speeds keep their integer part).
+    static int32_t MaxSpeedMPH(float speed);
+    static int32_t MaxSpeedKMH(float speed);
+
+    bool statusIsModal() const { return statusIsModal_; }
+    void setStatusIsModal(bool modal) { statusIsModal_ = modal; }
+
+    // The file the settings were read from, and the settings themselves (absent when unreadable).
+    const std::optional<std::filesystem::path>& envURL() const;
+    const SettingsFile& envInfo() const { return settings_; }
+
+    // Playable movie: a readable file with at least one video track, whatever its name.
+    bool isValidURL(const std::optional<std::filesystem::path>& url) const;
+    std::vector<std::filesystem::path> validURLs(const std::vector<std::filesystem::path>& urls) const;
+    std::vector<std::filesystem::path> validURLsWithPasteboard(const FilePasteboard& pasteboard) const;
+
+    const VideoTrackProbe& videoTrackProbe() const { return *probe_; }
+    // For work that outlives the call, such as a ValidationJob.
+    std::shared_ptr<const VideoTrackProbe> sharedVideoTrackProbe() const { return probe_; }
+
+private:
+    SettingsFile settings_;
+    std::shared_ptr<const VideoTrackProbe> probe_;
+    bool statusIsModal_ = false;
+};

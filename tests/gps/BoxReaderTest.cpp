@@ -1,0 +1,122 @@
+#include "GPSDataLoader.h"
+#include "SyntheticMovie.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+FileRange find(const Bytes& bytes, std::string_view name, uint64_t offset = 0) {
+    MemoryFile file(bytes);
+    return GPSDataLoader::loadBox(name, file, offset);
+}
+
+TEST(BoxReaderTest, FileShorterThanAHeaderHasNoBoxes) {
+    for (std::size_t size = 0; size < 8; ++size)
+        EXPECT_FALSE(find(Bytes(size, 0x10), "ftyp").found()) << size;
+}
+
+TEST(BoxReaderTest, FindsTopLevelBoxesPastMediaData) {
+    const Bytes movie = concat({ftyp(28), box("mdat", Bytes(1000, 0xAB)), box("moov", box("mvhd", Bytes(100, 0)))});
+    EXPECT_EQ(find(movie, "ftyp"), (FileRange{8, 20}));
+    EXPECT_EQ(find(movie, "moov"), (FileRange{28 + 1008 + 8, 108}));
+    EXPECT_FALSE(find(movie, "trak").found());
+}
+
+TEST(BoxReaderTest, ChildSearchRunsOnPastTheEnclosingBox) {
+    const Bytes movie = concat({ftyp(28), box("moov", box("mvhd", Bytes(12, 0))), box("gps ", Bytes(16, 1))});
+    const FileRange moov = find(movie, "moov");
+    EXPECT_EQ(find(movie, "gps ", moov.location), (FileRange{28 + 28 + 8, 16}));
+}
+
+TEST(BoxReaderTest, LeavesTheFileAtThePayloadOfAMatch) {
+    const Bytes movie = concat({ftyp(32), box("moov", Bytes(4, 0))});
+    MemoryFile file(movie);
+    const FileRange moov = GPSDataLoader::loadBox("moov", file, 0);
+    EXPECT_EQ(file.position(), moov.location);
+}
+
+struct TypeCase {
+    const char* name;
+    Bytes movie;
+    std::string_view wanted;
+    bool found;
+};
+
+class BoxTypeMatchTest : public testing::TestWithParam<TypeCase> {};
+
+TEST_P(BoxTypeMatchTest, MatchesTypesExactly) {
+    EXPECT_EQ(find(GetParam().movie, GetParam().wanted).found(), GetParam().found);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Types, BoxTypeMatchTest,
+    testing::Values(TypeCase{"Exact", box("gps ", Bytes(4)), "gps ", true},
+                    TypeCase{"CaseMatters", box("gps ", Bytes(4)), "GPS ", false},
+                    TypeCase{"ZeroByteInTypeNeverMatches", box(std::string_view("gp\0 ", 4), Bytes(4)), std::string_view("gp\0 ", 4), false},
+                    TypeCase{"PrefixIsNoMatch", box("gpsx", Bytes(4)), "gps", false},
+                    TypeCase{"EmptyPayloadMatches", box("free"), "free", true}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+Bytes rawBox(uint32_t size, std::string_view type) {
+    Bytes out;
+    appendU32BE(out, size);
+    out.insert(out.end(), type.begin(), type.end());
+    return out;
+}
+
+TEST(BoxReaderTest, BrokenSizesEndTheScan) {
+    const Bytes target = box("moov", Bytes(8));
+    for (uint32_t size : {0u, 1u, 7u})
+        EXPECT_FALSE(find(concat({rawBox(size, "free"), Bytes(16), target}), "moov").found()) << size;
+    // A size running past the end of the file hides what follows, but the box itself is found.
+    EXPECT_FALSE(find(concat({rawBox(1u << 30, "free"), target}), "moov").found());
+    EXPECT_EQ(find(concat({rawBox(1u << 30, "moov")}), "moov"), (FileRange{8, (1u << 30) - 8}));
+    // A matching box too small for its own header is no box.
+    EXPECT_FALSE(find(rawBox(4, "moov"), "moov").found());
+}
+
+TEST(BoxReaderTest, TruncatedHeaderIsNotFound) {
+    const Bytes movie = concat({box("free", Bytes(8)), Bytes{0, 0, 0, 16, 'm', 'o'}});
+    EXPECT_FALSE(find(movie, "moov").found());
+}
+
+struct FtypCase {
+    std::size_t size;
+    bool isMP4;
+};
+
+class IsMP4Test : public testing::TestWithParam<FtypCase> {};
+
+TEST_P(IsMP4Test, OnlyA28ByteFtypIsTheMp4Form) {
+    const Bytes movie = concat({ftyp(GetParam().size), box("moov")});
+    MemoryFile file(movie);
+    const FileRange range = GPSDataLoader::loadBox("ftyp", file, 0);
+    file.seek(100);
+    EXPECT_EQ(GPSDataLoader::IsMP4(file, range), GetParam().isMP4);
+    EXPECT_EQ(file.position(), range.location);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, IsMP4Test,
+                         testing::Values(FtypCase{28, true}, FtypCase{20, false}, FtypCase{32, false},
+                                         FtypCase{24, false}, FtypCase{12, false}));
+
+TEST(BoxReaderTest, MissingFtypIsNotMp4) {
+    MemoryFile file(box("moov"));
+    EXPECT_FALSE(GPSDataLoader::IsMP4(file, GPSDataLoader::loadBox("ftyp", file, 0)));
+}
+
+TEST(GPSHeaderTest, NeedsTheTagAndAZeroLastByte) {
+    EXPECT_FALSE(GPSDataLoader::isGPSData(nullptr));
+    uint8_t header[16] = {0, 0, 0, 92, 'f', 'r', 'e', 'e', 'G', 'P', 'S', ' ', 0x11, 0x22, 0x33, 0};
+    EXPECT_TRUE(GPSDataLoader::isGPSData(header));  // bytes 0..7 and 12..14 do not matter
+    header[15] = 0x4C;
+    EXPECT_FALSE(GPSDataLoader::isGPSData(header));
+    header[15] = 0;
+    header[11] = 0;
+    EXPECT_FALSE(GPSDataLoader::isGPSData(header));
+    header[11] = ' ';
+    header[8] = 'g';
+    EXPECT_FALSE(GPSDataLoader::isGPSData(header));
+}
+
+}  // namespace
