@@ -14,14 +14,20 @@ std::size_t SeekableFile::read(std::span<uint8_t> buffer) {
 }
 
 std::unique_ptr<PosixFile> PosixFile::open(const std::filesystem::path& path) {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Non-blocking, so that naming a FIFO cannot hang the caller; reads of regular files ignore it.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) return nullptr;
     struct stat st {};
-    // A folder opens for reading on Linux but is no file to read from.
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode)) {
-        const int error = S_ISDIR(st.st_mode) ? EISDIR : errno;
+    if (::fstat(fd, &st) != 0) {
+        const int error = errno;
         ::close(fd);
         errno = error;
+        return nullptr;
+    }
+    // A folder, a device or a pipe opens for reading on Linux but is no movie file.
+    if (!S_ISREG(st.st_mode)) {
+        ::close(fd);
+        errno = S_ISDIR(st.st_mode) ? EISDIR : EINVAL;
         return nullptr;
     }
     // Blocks lie a second of media apart: read-ahead would pull in pages nobody asked for.

@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <sys/stat.h>
 #include <optional>
 
 namespace {
@@ -174,6 +176,16 @@ TEST(LoadGPSDataListTest, UnopenableFilesGiveAnEmptyTrackAndZero) {
         EXPECT_NE(GPSDataLoader::LoadTrack(path).openError, 0);
     }
     EXPECT_TRUE(GPSDataLoader::LoadGPSDataList(tmp, nullptr).empty());
+}
+
+TEST(LoadGPSDataListTest, SpecialFilesAreRefusedWithoutBlocking) {
+    const std::filesystem::path fifo = std::filesystem::temp_directory_path() / "dashtrack-loader-test.fifo";
+    std::filesystem::remove(fifo);
+    ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
+    EXPECT_EQ(GPSDataLoader::LoadTrack(fifo).openError, EINVAL);
+    EXPECT_EQ(GPSDataLoader::LoadTrack("/dev/null").openError, EINVAL);
+    EXPECT_EQ(GPSDataLoader::LoadTrack(std::filesystem::temp_directory_path()).openError, EISDIR);
+    std::filesystem::remove(fifo);
 }
 
 // Every prefix of a valid movie must load without harm, giving at most the whole track.
