@@ -29,7 +29,7 @@ test-unit: build
 # clang so that the same build also makes the fuzzer, which then runs briefly.
 test-sanitize: build
 	@CC=clang CXX=clang++ cmake -S . -B $(SAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DDASHTRACK_GUI=OFF \
-	  -DDASHTRACK_SANITIZE=ON -DDASHTRACK_FUZZ=ON -DDASHTRACK_BENCH=OFF >/dev/null
+	  -DDASHTRACK_SANITIZE=ON -DDASHTRACK_FUZZ=ON -DDASHTRACK_BENCH=OFF -DDASHTRACK_SAMPLES=OFF >/dev/null
 	@cmake --build $(SAN_BUILD) -j $(JOBS)
 	@cd $(SAN_BUILD) && ctest --output-on-failure -j $(JOBS)
 	@scripts/run-fuzzer $(SAN_BUILD) $(FUZZ_SECONDS)

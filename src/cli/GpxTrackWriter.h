@@ -1,0 +1,23 @@
+#pragma once
+// The track as GPX 1.1, which every mapping and fitness tool opens.
+
+#include "SpeedUnit.h"
+#include "TrackWriter.h"
+
+#include <iosfwd>
+
+// One <trk> per movie, named after its file, with one <trkseg>. The speed goes into Garmin's
+// TrackPointExtension v2 (<gpxtpx:speed>, metres per second), which GPX readers widely know; the
+// per-point <desc> carries the read-out text in the chosen unit.
+class GpxTrackWriter final : public TrackWriter {
+public:
+    GpxTrackWriter(std::ostream& out, SpeedUnit unit) : out_(out), unit_(unit) {}
+
+    void begin() override;
+    void file(const NamedTrack& track) override;
+    void end() override;
+
+private:
+    std::ostream& out_;
+    SpeedUnit unit_;
+};

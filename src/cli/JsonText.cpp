@@ -1,0 +1,45 @@
+#include "JsonText.h"
+
+#include "NumberText.h"
+#include "Utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+namespace {
+
+// Characters with a short escape; the other control characters use \u00XX.
+constexpr std::array<std::pair<char32_t, std::string_view>, 7> kShortEscapes{{
+    {U'"', "\\\""}, {U'\\', "\\\\"}, {U'\b', "\\b"}, {U'\f', "\\f"}, {U'\n', "\\n"}, {U'\r', "\\r"}, {U'\t', "\\t"},
+}};
+
+}  // namespace
+
+std::string jsonString(std::string_view text) {
+    std::string out = "\"";
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Char c = nextUtf8Char(text, at);
+        at += c.length;
+        const auto escape = std::find_if(kShortEscapes.begin(), kShortEscapes.end(),
+                                         [&](const auto& entry) { return entry.first == c.codePoint; });
+        if (escape != kShortEscapes.end()) {
+            out += escape->second;
+        } else if (c.codePoint < 0x20) {
+            char hex[8];
+            std::snprintf(hex, sizeof hex, "\\u%04x", unsigned(c.codePoint));
+            out += hex;
+        } else {
+            appendUtf8(out, c.codePoint);
+        }
+    }
+    out += '"';
+    return out;
+}
+
+std::string jsonNumber(float value) {
+    if (!std::isfinite(value)) return "null";
+    return shortestNumber(value);
+}

@@ -1,0 +1,23 @@
+#pragma once
+// The track as KML 2.2 for Google Earth and GIS tools.
+
+#include "SpeedUnit.h"
+#include "TrackWriter.h"
+
+#include <iosfwd>
+
+// One Placemark per movie, named after its file, holding a gx:Track: a time and a coordinate per
+// sample, and the speed read-out texts in the chosen unit as the track's "speed" array. A gx:Track
+// needs a time for every point, so samples whose date is not a calendar date are left out.
+class KmlTrackWriter final : public TrackWriter {
+public:
+    KmlTrackWriter(std::ostream& out, SpeedUnit unit) : out_(out), unit_(unit) {}
+
+    void begin() override;
+    void file(const NamedTrack& track) override;
+    void end() override;
+
+private:
+    std::ostream& out_;
+    SpeedUnit unit_;
+};

@@ -1,0 +1,72 @@
+#include "ProbeCommand.h"
+
+#include "Diagnostics.h"
+#include "GPSDataLoader.h"
+#include "VideoTrackProbe.h"
+
+#include <ostream>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr std::pair<GPSLayout, std::string_view> kLayoutNames[] = {
+    {GPSLayout::None, "none"},
+    {GPSLayout::Index, "index"},
+    {GPSLayout::SoundChunk, "sound-chunk"},
+};
+
+// Indexed like GPSTrack::formCounts.
+constexpr std::pair<GPSRecordForm, std::string_view> kFormNames[] = {
+    {GPSRecordForm::MP4, "mp4"},
+    {GPSRecordForm::Scaled, "scaled"},
+    {GPSRecordForm::FixedPoint, "fixed-point"},
+};
+
+std::string_view layoutName(GPSLayout layout) {
+    for (const auto& [value, name] : kLayoutNames)
+        if (value == layout) return name;
+    return "none";
+}
+
+// Every movie with a sound track has what the sound-chunk layout reads, so that layout counts
+// as found only when GPS blocks were there; an index is a box of its own and counts even empty.
+GPSLayout foundLayout(const GPSTrack& track) {
+    return track.layout == GPSLayout::SoundChunk && track.samples.empty() ? GPSLayout::None : track.layout;
+}
+
+std::string formNames(const GPSTrack& track) {
+    std::string names;
+    for (const auto& [form, name] : kFormNames) {
+        if (track.formCounts[std::size_t(form)] == 0) continue;
+        if (!names.empty()) names += ',';
+        names += name;
+    }
+    return names.empty() ? "-" : names;
+}
+
+// Layout, record forms and sample count, tab-separated.
+std::string describeTrack(const GPSTrack& track) {
+    return std::string(layoutName(foundLayout(track))) + "\t" + formNames(track) + "\t" +
+           std::to_string(track.samples.size());
+}
+
+}  // namespace
+
+int runProbe(const Invocation& invocation, std::ostream& out, std::ostream& err) {
+    // Made directly rather than through the shared settings object, so that probing never reads
+    // or creates the user's settings file.
+    const auto videoProbe = defaultVideoTrackProbe();
+    int status = kExitSuccess;
+    for (const std::string& file : invocation.files) {
+        const GPSTrack track = GPSDataLoader::LoadTrack(file);
+        if (!track.opened) {
+            reportFileError(err, file, track.openError);
+            status = kExitFileError;
+            continue;
+        }
+        const bool playable = videoProbe->hasVideoTrack(file);
+        out << displayName(file) << '\t' << (playable ? "movie" : "not-movie") << '\t' << describeTrack(track) << '\n';
+    }
+    return finishOutput(out, err, status);
+}

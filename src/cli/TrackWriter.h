@@ -1,0 +1,29 @@
+#pragma once
+// What every export format does: one document around the tracks of one or more movies.
+
+#include "GPSDataLoader.h"
+
+#include <span>
+#include <string>
+
+// A movie's track and the name the user gave for the movie.
+struct NamedTrack {
+    std::string file;
+    GPSTrack track;
+};
+
+// Writes one document: begin, then file for each track in order, then end. Files can be passed
+// one at a time as they are read, so a long list never sits in memory whole.
+class TrackWriter {
+public:
+    virtual ~TrackWriter() = default;
+    virtual void begin() = 0;
+    virtual void file(const NamedTrack& track) = 0;
+    virtual void end() = 0;
+};
+
+inline void writeTracks(TrackWriter& writer, std::span<const NamedTrack> tracks) {
+    writer.begin();
+    for (const NamedTrack& track : tracks) writer.file(track);
+    writer.end();
+}

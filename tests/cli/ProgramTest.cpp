@@ -1,0 +1,152 @@
+// dashtrack-gps run as a user runs it, on the fixture movies.
+
+#include "OutputText.h"
+#include "ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+std::string fixture(const std::string& name) { return std::string(DASHTRACK_FIXTURE_DIR) + "/" + name; }
+
+// Each fixture with GPS holds the ten records of route10.csv after its first row.
+constexpr std::size_t kFixtureSamples = 10;
+
+TEST(Program, HelpGoesToStdoutWithStatusZero) {
+    const ProgramResult help = runTool({"--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_EQ(help.err, "");
+    for (const char* word : {"extract", "probe", "--format", "--unit", "geojson", "kml", "kmh", "Exit status"})
+        EXPECT_NE(help.out.find(word), std::string::npos) << word;
+    for (const std::vector<std::string>& spelling :
+         {std::vector<std::string>{"-h"}, {"help"}, {"extract", "--help"}, {"probe", "x.mov", "-h"}}) {
+        const ProgramResult run = runTool(spelling);
+        EXPECT_EQ(run.exitCode, 0) << spelling.front();
+        EXPECT_EQ(run.out, help.out) << spelling.front();
+    }
+}
+
+TEST(Program, UsageErrorsAreOneLineOnStderrWithStatusTwo) {
+    const std::string movie = fixture("index_fixed.mov");
+    const std::vector<std::vector<std::string>> cases = {
+        {},
+        {"bogus", movie},
+        {"extract"},
+        {"probe"},
+        {"extract", "--format", "xml", movie},
+        {"extract", "--unit", "knots", movie},
+        {"extract", movie, "--format"},
+        {"--frobnicate", "extract", movie},
+        {"probe", "--format", "csv", movie},
+        {"extract", "--help=yes"},
+    };
+    for (const auto& arguments : cases) {
+        const ProgramResult run = runTool(arguments);
+        const std::string what = arguments.empty() ? "(none)" : arguments.front() + " " + arguments.back();
+        EXPECT_EQ(run.exitCode, 2) << what;
+        EXPECT_EQ(run.out, "") << what;
+        EXPECT_TRUE(run.err.starts_with("dashtrack-gps: ")) << what << ": " << run.err;
+        EXPECT_EQ(occurrences(run.err, "\n"), 1u) << what << ": " << run.err;
+    }
+}
+
+TEST(Program, AnUnreadableFileIsReportedAndTheOthersStillPrint) {
+    const std::string missing = fixture("does-not-exist.mov");
+    const std::string movie = fixture("index_fixed.mov");
+    // Each format leaves the file out and keeps the shape it has for several files.
+    const struct {
+        const char* format;
+        const char* perFile;
+    } cases[] = {
+        {"json", "{\"file\": "},
+        {"csv", "\n/"},  // the file column starts each row
+        {"gpx", "<trk>"},
+        {"kml", "<Placemark>"},
+        {"geojson", "{\"type\": \"Feature\""},
+    };
+    for (const auto& c : cases) {
+        const ProgramResult run = runTool({"extract", "--format", c.format, missing, movie});
+        EXPECT_EQ(run.exitCode, 1) << c.format;
+        EXPECT_EQ(run.err, "dashtrack-gps: " + missing + ": No such file or directory\n") << c.format;
+        const std::size_t expected = std::string_view(c.format) == "csv" ? kFixtureSamples : 1;
+        EXPECT_EQ(occurrences(run.out, c.perFile), expected) << c.format;
+        EXPECT_EQ(occurrences(run.out, "does-not-exist"), 0u) << c.format;
+    }
+}
+
+TEST(Program, FileErrorsNameTheFileOnOneLine) {
+    const std::pair<std::string, std::string> cases[] = {
+        {DASHTRACK_FIXTURE_DIR, std::string(DASHTRACK_FIXTURE_DIR) + ": Is a directory"},
+        {"/no/such\ndir/x.mov", "/no/such\\ndir/x.mov: No such file or directory"},
+    };
+    for (const auto& [file, message] : cases) {
+        for (const char* command : {"extract", "probe"}) {
+            const ProgramResult run = runTool({command, file});
+            EXPECT_EQ(run.exitCode, 1) << command;
+            EXPECT_EQ(run.err, "dashtrack-gps: " + message + "\n") << command;
+        }
+    }
+}
+
+TEST(Program, AMovieWithoutGpsIsAnEmptyTrackNotAnError) {
+    const ProgramResult run = runTool({"extract", fixture("nogps.mov")});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, "{\"maxSpeed\": 0, \"samples\": []}\n");
+}
+
+TEST(Program, ProbeTellsLayoutFormsAndCountOfEachFile) {
+    const std::size_t n = kFixtureSamples;
+    const std::pair<const char*, std::string> cases[] = {
+        {"index_mp4.mp4", "movie\tindex\tmp4\t" + std::to_string(n)},
+        {"index_scaled.mov", "movie\tindex\tscaled\t" + std::to_string(n)},
+        {"index_fixed.mov", "movie\tindex\tfixed-point\t" + std::to_string(n)},
+        {"chunk_scaled.mov", "movie\tsound-chunk\tscaled\t" + std::to_string(n)},
+        {"chunk_fixed.mov", "movie\tsound-chunk\tfixed-point\t" + std::to_string(n)},
+        {"nogps.mov", "movie\tnone\t-\t0"},
+        {"route10.csv", "not-movie\tnone\t-\t0"},
+    };
+    std::vector<std::string> arguments{"probe"}, expected;
+    for (const auto& [file, description] : cases) {
+        arguments.push_back(fixture(file));
+        expected.push_back(fixture(file) + "\t" + description);
+    }
+    const ProgramResult run = runTool(arguments);
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(lines(run.out), expected);
+}
+
+TEST(Program, ExtractReadsTheRouteFromEveryLayoutAndForm) {
+    // First and last rows: route10.csv's second and last rows as the player shows them. The MP4
+    // form moves the time by +7 h for longitude 114 E (the tool runs in UTC here) and keeps fewer
+    // digits of longitude.
+    const struct {
+        const char* file;
+        const char* first;
+        const char* last;
+    } cases[] = {
+        {"index_mp4.mp4", "2017-01-01T06:59:56,01/01/17,06:59:56,22.29828,114.17200,18.50",
+         "2017-01-01T07:00:05,01/01/17,07:00:05,22.29857,114.17200,22.50"},
+        {"index_scaled.mov", "2016-12-31T23:59:56,12/31/16,23:59:56,22.29828,114.17204,18.50",
+         "2017-01-01T00:00:05,01/01/17,00:00:05,22.29857,114.17203,22.50"},
+        {"index_fixed.mov", "2016-12-31T23:59:56,12/31/16,23:59:56,22.29828,114.17204,18.50",
+         "2017-01-01T00:00:05,01/01/17,00:00:05,22.29857,114.17204,22.50"},
+        {"chunk_scaled.mov", "2016-12-31T23:59:56,12/31/16,23:59:56,22.29828,114.17204,18.50",
+         "2017-01-01T00:00:05,01/01/17,00:00:05,22.29857,114.17203,22.50"},
+        {"chunk_fixed.mov", "2016-12-31T23:59:56,12/31/16,23:59:56,22.29828,114.17204,18.50",
+         "2017-01-01T00:00:05,01/01/17,00:00:05,22.29857,114.17204,22.50"},
+    };
+    for (const auto& c : cases) {
+        const ProgramResult run = runTool({"extract", "--format", "csv", fixture(c.file)});
+        EXPECT_EQ(run.exitCode, 0) << c.file;
+        const std::vector<std::string> rows = lines(run.out);
+        ASSERT_EQ(rows.size(), 1 + kFixtureSamples) << c.file;
+        EXPECT_EQ(rows[1], c.first) << c.file;
+        EXPECT_EQ(rows.back(), c.last) << c.file;
+    }
+}
+
+}  // namespace

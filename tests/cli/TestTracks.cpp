@@ -1,0 +1,72 @@
+#include "TestTracks.h"
+
+#include "TrackFormats.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <sstream>
+
+GPSData fixedPointSample(int32_t latitude, int32_t longitude, uint32_t centimetresPerSecond, RecordTime time) {
+    GPSDATA raw;
+    raw.rmcinfo.Year = time.year;
+    raw.rmcinfo.Month = time.month;
+    raw.rmcinfo.Day = time.day;
+    raw.rmcinfo.Hour = time.hour;
+    raw.rmcinfo.Minute = time.minute;
+    raw.rmcinfo.Second = time.second;
+    raw.rmcinfo.Latitude = std::bit_cast<float>(latitude);
+    raw.rmcinfo.Longitude = std::bit_cast<float>(longitude);
+    raw.rmcinfo.Speed = std::bit_cast<float>(centimetresPerSecond);
+    GPSData sample;
+    sample.SetData(raw, false);
+    return sample;
+}
+
+GPSData scaledSample(float latitude, float longitude, float speed, char ns, char ew) {
+    GPSDATA raw;
+    raw.rmcinfo.Year = 16;
+    raw.rmcinfo.Month = 1;
+    raw.rmcinfo.Day = 2;
+    raw.rmcinfo.NSInd = ns;
+    raw.rmcinfo.EWInd = ew;
+    raw.rmcinfo.Latitude = latitude;
+    raw.rmcinfo.Longitude = longitude;
+    raw.rmcinfo.Speed = speed;
+    GPSData sample;
+    sample.SetData(raw, false);
+    return sample;
+}
+
+GPSTrack trackOf(std::vector<GPSData> samples) {
+    GPSTrack track;
+    track.opened = true;
+    for (const GPSData& sample : samples) track.maxSpeed = std::max(track.maxSpeed, sample.SpeedMPH());
+    track.samples = std::move(samples);
+    return track;
+}
+
+std::vector<NamedTrack> sampleMovies() {
+    return {
+        {"trip/a.mov", trackOf({
+                           fixedPointSample(225000000, 1142500000, 2778),
+                           fixedPointSample(-338688000, -1512093000, 0, {2016, 12, 31, 20, 5, 10}),
+                           fixedPointSample(0, 0, 1000, {2016, 0, 0, 0, 0, 0}),
+                       })},
+        {"b \"quoted\", <odd> & 'new'\nline.mov", trackOf({fixedPointSample(515000000, -1200000, 1500, {2017, 2, 28, 23, 59, 59})})},
+        {"empty.mov", trackOf({})},
+    };
+}
+
+std::string render(std::string_view format, const std::vector<NamedTrack>& tracks, SpeedUnit unit) {
+    std::ostringstream out;
+    const TrackFormat* trackFormat = findTrackFormat(format);
+    if (!trackFormat) {
+        ADD_FAILURE() << "no format " << format;
+        return "";
+    }
+    const auto writer = trackFormat->make(out, {.unit = unit, .severalFiles = tracks.size() > 1});
+    writeTracks(*writer, tracks);
+    return out.str();
+}

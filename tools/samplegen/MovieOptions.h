@@ -1,0 +1,26 @@
+#pragma once
+// What kind of movie to make.
+
+#include "GPSData.h"
+
+#include <cstdint>
+#include <optional>
+
+// How the GPS blocks are found: through a "gps " index box, after every sound chunk, or not at all.
+enum class GPSBlockLayout { Index, Chunk, None };
+
+struct MovieOptions {
+    GPSRecordForm form = GPSRecordForm::Scaled;
+    GPSBlockLayout layout = GPSBlockLayout::Index;
+    int width = 1280;
+    int height = 720;
+    int fps = 30;
+    int channels = 1;
+    int sampleRate = 22050;
+    int64_t fromSecond = 0;                // where in the route the movie starts
+    std::optional<int64_t> seconds;        // default: to the end of the route
+    bool setFileTime = true;               // file modification time = the movie's start
+};
+
+// Throws UsageError for combinations the writer cannot make.
+void validate(const MovieOptions& options);
