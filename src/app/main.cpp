@@ -1,0 +1,30 @@
+// dashtrack: a window that plays one movie with its GPS track.
+
+#include "PlayerWindow.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include <clocale>
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Dashtrack"));
+    // libmpv needs C number formatting; QApplication has just set the user's locale.
+    std::setlocale(LC_NUMERIC, "C");
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Plays a dash camera movie with its GPS track."));
+    parser.addHelpOption();
+    parser.addPositionalArgument(QStringLiteral("movie"), QStringLiteral("The movie to play."));
+    const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),
+                                       QStringLiteral("Quit once the movie has played to its end."));
+    parser.addOption(quitAtEnd);
+    parser.process(app);
+
+    PlayerWindow window({.quitAtEnd = parser.isSet(quitAtEnd)});
+    window.show();
+    if (const QStringList movies = parser.positionalArguments(); !movies.isEmpty())
+        window.play(movies.first().toStdString());
+    return QApplication::exec();
+}

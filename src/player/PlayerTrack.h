@@ -1,0 +1,17 @@
+#pragma once
+// The GPS track as the movie view keeps it: an empty sample before the first record, so that
+// position k is the sample shown from second k of the movie.
+
+#include "GPSData.h"
+
+#include <vector>
+
+struct PlayerTrack {
+    // Loader maxima above this are capped: the speed scales stop at 200.
+    static constexpr float kSpeedCap = 200.0f;
+
+    std::vector<GPSData> samples;  // empty, or the lead-in followed by every record
+    float speedMax = 0;            // 0 for an empty track
+
+    static PlayerTrack fromLoaded(std::vector<GPSData> records, float loaderMaxSpeed);
+};

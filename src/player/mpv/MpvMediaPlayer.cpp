@@ -1,0 +1,304 @@
+#include "MpvMediaPlayer.h"
+
+#include "MpvLogging.h"
+
+#include <mpv/client.h>
+
+#include <QMetaObject>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+bool flagOf(const mpv_event_property& property) {
+    return property.format == MPV_FORMAT_FLAG && *static_cast<const int*>(property.data) != 0;
+}
+
+std::optional<double> doubleOf(const mpv_event_property& property) {
+    if (property.format != MPV_FORMAT_DOUBLE)
+        return std::nullopt;
+    return *static_cast<const double*>(property.data);
+}
+
+bool stringIs(const mpv_event_property& property, const char* text) {
+    return property.format == MPV_FORMAT_STRING &&
+           std::strcmp(*static_cast<char* const*>(property.data), text) == 0;
+}
+
+struct ObservedProperty {
+    const char* name;
+    mpv_format format;
+    void (*apply)(MpvPlaybackState& state, const mpv_event_property& property);
+};
+
+// Every property the player follows, by slot; a notification's reply id is its slot.
+constexpr std::array<ObservedProperty, MpvMediaPlayer::kObservedCount> kObserved{{
+    {"pause", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.paused = flagOf(p); }},
+    {"core-idle", MPV_FORMAT_FLAG,
+     [](MpvPlaybackState& s, const mpv_event_property& p) { s.coreIdle = flagOf(p); }},
+    {"seeking", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.seeking = flagOf(p); }},
+    {"eof-reached", MPV_FORMAT_FLAG,
+     [](MpvPlaybackState& s, const mpv_event_property& p) { s.eofReached = flagOf(p); }},
+    {"play-dir", MPV_FORMAT_STRING,
+     [](MpvPlaybackState& s, const mpv_event_property& p) { s.backward = stringIs(p, "backward"); }},
+    {"speed", MPV_FORMAT_DOUBLE,
+     [](MpvPlaybackState& s, const mpv_event_property& p) { s.speed = doubleOf(p).value_or(s.speed); }},
+    // Unavailable while a file opens or a seek settles: the last position stands until a new one.
+    {"time-pos", MPV_FORMAT_DOUBLE,
+     [](MpvPlaybackState& s, const mpv_event_property& p) {
+         if (const auto seconds = doubleOf(p))
+             s.position = seconds;
+     }},
+}};
+
+enum Slot : std::size_t { Pause, CoreIdle, Seeking, EofReached, PlayDirection, Speed, TimePos };
+static_assert(std::string_view(kObserved[PlayDirection].name) == "play-dir");
+static_assert(std::string_view(kObserved[TimePos].name) == "time-pos");
+
+// Reply ids of our own requests, above the observed slots.
+constexpr uint64_t kWriteReply = 0x100;     // | slot: a property write
+constexpr uint64_t kUnobservedReply = 0x200;  // writes of properties the player does not follow
+constexpr uint64_t kSeekReply = 0x300;
+
+bool isSlotReply(uint64_t reply, uint64_t base) { return reply >= base && reply < base + MpvMediaPlayer::kObservedCount; }
+
+std::string secondsText(double seconds) {
+    char buffer[64];
+    const auto result = std::to_chars(buffer, buffer + sizeof buffer, seconds, std::chars_format::fixed, 6);
+    return std::string(buffer, result.ptr);
+}
+
+}  // namespace
+
+MpvMediaPlayer::MpvMediaPlayer(MpvCore core, std::filesystem::path file, MovieInfo info, QElapsedTimer sinceRequested)
+    : core_(std::move(core)), file_(std::move(file)), info_(info), sinceRequested_(sinceRequested) {
+    if (!sinceRequested_.isValid())
+        sinceRequested_.start();
+    for (std::size_t slot = 0; slot < kObserved.size(); ++slot)
+        mpv_observe_property(core_.get(), slot, kObserved[slot].name, kObserved[slot].format);
+    mpv_set_wakeup_callback(core_.get(), &MpvMediaPlayer::wakeUp, this);
+    QMetaObject::invokeMethod(this, [this] { load(); }, Qt::QueuedConnection);
+}
+
+MpvMediaPlayer::~MpvMediaPlayer() {
+    // Once this returns mpv runs the callback no more, so no call can reach a dead player.
+    mpv_set_wakeup_callback(core_.get(), nullptr, nullptr);
+    logStats();
+    // A surface may keep the core a little longer than this player; it must not go on playing.
+    command({"stop"});
+}
+
+void MpvMediaPlayer::wakeUp(void* context) {
+    // Called on one of mpv's threads: post the work to the GUI thread, nothing more.
+    auto* self = static_cast<MpvMediaPlayer*>(context);
+    if (self->drainPosted_.exchange(true))
+        return;
+    QMetaObject::invokeMethod(
+        self,
+        [self] {
+            self->drainPosted_ = false;
+            self->drainEvents();
+        },
+        Qt::QueuedConnection);
+}
+
+void MpvMediaPlayer::load() {
+    const std::string path = file_.string();
+    command({"loadfile", path.c_str()});
+}
+
+void MpvMediaPlayer::drainEvents() {
+    for (;;) {
+        const mpv_event* event = mpv_wait_event(core_.get(), 0);
+        if (event->event_id == MPV_EVENT_NONE)
+            return;
+        handleEvent(*event);
+    }
+}
+
+void MpvMediaPlayer::handleEvent(const mpv_event& event) {
+    switch (event.event_id) {
+    case MPV_EVENT_PROPERTY_CHANGE:
+        if (event.reply_userdata < kObserved.size())
+            applyProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
+        break;
+    case MPV_EVENT_SET_PROPERTY_REPLY:
+        if (isSlotReply(event.reply_userdata, kWriteReply))
+            writeDone(event.reply_userdata - kWriteReply, event.error);
+        else if (event.error < 0)
+            qCWarning(lcMpv) << "setting a property failed:" << mpv_error_string(event.error);
+        break;
+    case MPV_EVENT_COMMAND_REPLY:
+        if (event.error < 0) {
+            qCDebug(lcMpv) << "command failed:" << mpv_error_string(event.error);
+            if (event.reply_userdata == kSeekReply)
+                state_.seekInFlight = false;
+        }
+        break;
+    case MPV_EVENT_PLAYBACK_RESTART:
+        state_.seekInFlight = false;
+        break;
+    case MPV_EVENT_FILE_LOADED:
+        state_.loaded = true;
+        if (pendingSeek_) {
+            seekNow(*pendingSeek_);
+            pendingSeek_.reset();
+        }
+        break;
+    case MPV_EVENT_END_FILE: {
+        const auto* end = static_cast<const mpv_event_end_file*>(event.data);
+        if (end->reason == MPV_END_FILE_REASON_ERROR) {
+            qCWarning(lcMpv) << "cannot play" << file_.c_str() << ":" << mpv_error_string(end->error);
+            state_.failed = true;
+            state_.loaded = false;
+        }
+        break;
+    }
+    case MPV_EVENT_LOG_MESSAGE: {
+        const auto* message = static_cast<const mpv_event_log_message*>(event.data);
+        const QString text = QString::fromUtf8(message->text).trimmed();
+        // mpv's warnings are mostly about odd but playable files; its errors are worth seeing.
+        if (message->log_level <= MPV_LOG_LEVEL_ERROR)
+            qCWarning(lcMpv).noquote() << message->prefix << text;
+        else
+            qCDebug(lcMpv).noquote() << message->prefix << text;
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void MpvMediaPlayer::applyProperty(std::size_t slot, const mpv_event_property& property) {
+    // Until the core has our write, what it reports is the value we have just replaced.
+    if (pendingWrites_[slot] > 0)
+        return;
+    kObserved[slot].apply(state_, property);
+}
+
+void MpvMediaPlayer::writeFlag(std::size_t slot, bool value) {
+    int flag = value ? 1 : 0;
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_FLAG, &flag});
+    ++pendingWrites_[slot];
+    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_FLAG, &flag);
+}
+
+void MpvMediaPlayer::writeDouble(std::size_t slot, double value) {
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_DOUBLE, &value});
+    ++pendingWrites_[slot];
+    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_DOUBLE, &value);
+}
+
+void MpvMediaPlayer::writeString(std::size_t slot, const char* value) {
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_STRING, &value});
+    ++pendingWrites_[slot];
+    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_STRING, &value);
+}
+
+void MpvMediaPlayer::writeDone(std::size_t slot, int error) {
+    if (error < 0)
+        qCWarning(lcMpv) << "setting" << kObserved[slot].name << "failed:" << mpv_error_string(error);
+    if (--pendingWrites_[slot] > 0)
+        return;
+    // mpv may undo a write at once (unpausing at the end pauses again) and then tells nothing, as
+    // the value is the one it last told us. Observing afresh makes it report where it stands now;
+    // unlike a read, this never waits for the core on this thread, which also renders.
+    mpv_unobserve_property(core_.get(), slot);
+    mpv_observe_property(core_.get(), slot, kObserved[slot].name, kObserved[slot].format);
+}
+
+void MpvMediaPlayer::command(std::initializer_list<const char*> arguments, uint64_t reply) {
+    std::vector<const char*> list(arguments);
+    list.push_back(nullptr);
+    mpv_command_async(core_.get(), reply, list.data());
+}
+
+void MpvMediaPlayer::setVolume(float volume) {
+    volume_ = std::clamp(volume, 0.0f, 1.0f);
+    double percent = volume_ * 100.0;
+    mpv_set_property_async(core_.get(), kUnobservedReply, "volume", MPV_FORMAT_DOUBLE, &percent);
+}
+
+void MpvMediaPlayer::setMuted(bool muted) {
+    muted_ = muted;
+    int flag = muted ? 1 : 0;
+    mpv_set_property_async(core_.get(), kUnobservedReply, "mute", MPV_FORMAT_FLAG, &flag);
+}
+
+void MpvMediaPlayer::setRate(float rate) {
+    if (rate == 0.0f || !std::isfinite(rate)) {
+        pause();
+        return;
+    }
+    const bool backward = rate < 0.0f;
+    if (backward != state_.backward) {
+        // Sound played backwards is noise, and demuxing AAC backwards holds playback up for
+        // seconds: the audio track sits out while the movie runs backwards.
+        if (backward)
+            setAudioTrack("no");
+        writeString(PlayDirection, backward ? "backward" : "forward");
+        if (!backward)
+            setAudioTrack("auto");
+    }
+    if (std::abs(rate) != state_.speed)
+        writeDouble(Speed, std::abs(rate));
+    if (state_.paused)
+        writeFlag(Pause, false);
+}
+
+void MpvMediaPlayer::setAudioTrack(const char* track) {
+    mpv_set_property_async(core_.get(), kUnobservedReply, "aid", MPV_FORMAT_STRING, &track);
+}
+
+void MpvMediaPlayer::pause() {
+    if (!state_.paused)
+        writeFlag(Pause, true);
+}
+
+void MpvMediaPlayer::seek(MediaTime time) {
+    if (!time.isValid())
+        return;
+    const double seconds = time.seconds();
+    if (!state_.loaded) {
+        pendingSeek_ = seconds;
+        return;
+    }
+    seekNow(seconds);
+}
+
+void MpvMediaPlayer::seekNow(double seconds) {
+    // Reported at once, as the position the player is heading for; mpv confirms it when it lands.
+    state_.position = seconds;
+    state_.seekInFlight = true;
+    const std::string target = secondsText(seconds);
+    command({"seek", target.c_str(), "absolute"}, kSeekReply);
+}
+
+void MpvMediaPlayer::frameShown() {
+    ++framesShown_;
+    if (!firstFrameMs_) {
+        firstFrameMs_ = sinceRequested_.elapsed();
+        qCInfo(lcMpvStats).noquote() << "first-frame-ms=" + QString::number(*firstFrameMs_);
+    }
+}
+
+void MpvMediaPlayer::logStats() const {
+    if (!lcMpvStats().isInfoEnabled())
+        return;
+    int64_t decoderDrops = 0;
+    int64_t outputDrops = 0;
+    mpv_get_property(core_.get(), "frame-drop-count", MPV_FORMAT_INT64, &decoderDrops);
+    mpv_get_property(core_.get(), "vo-drop-frame-count", MPV_FORMAT_INT64, &outputDrops);
+    qCInfo(lcMpvStats).noquote() << QStringLiteral("file=%1 first-frame-ms=%2 frames-shown=%3 decoder-drops=%4 output-drops=%5")
+                                        .arg(QString::fromStdString(file_.filename().string()))
+                                        .arg(firstFrameMs_.value_or(-1))
+                                        .arg(framesShown_)
+                                        .arg(decoderDrops)
+                                        .arg(outputDrops);
+}

@@ -1,0 +1,83 @@
+#include "SoftwareVideoSurface.h"
+
+#include "MediaPlayer.h"
+#include "MpvLogging.h"
+#include "MpvRenderSource.h"
+
+#include <mpv/render.h>
+
+#include <QPainter>
+
+SoftwareVideoSurface::SoftwareVideoSurface(QWidget* parent)
+    : QWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
+    // Every pixel is painted each time: Qt need not clear the background first.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
+    MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
+    if (source == source_)
+        return;
+    binding_.release();
+    hasFrame_ = newFrame_ = false;
+    source_ = source;
+    if (source_) {
+        mpv_render_param params[]{
+            {MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_SW)},
+            {MPV_RENDER_PARAM_INVALID, nullptr},
+        };
+        binding_.attach(*source_, params);
+    }
+    update();
+}
+
+void SoftwareVideoSurface::onMpvUpdate() {
+    // The frame is converted here, when mpv says it is due, never by waiting for one in paintEvent.
+    if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
+        const bool newFrame = binding_.nextIsNewFrame();
+        if (newFrame && newFrame_)
+            qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
+        renderFrame();
+        newFrame_ = (newFrame_ || newFrame) && hasFrame_;
+    }
+}
+
+void SoftwareVideoSurface::renderFrame() {
+    const qreal ratio = devicePixelRatioF();
+    frame_.resize(size() * ratio);
+    if (frame_.isEmpty() || !binding_.context())
+        return;
+    frame_.setDevicePixelRatio(ratio);
+    int size[2]{frame_.size().width(), frame_.size().height()};
+    std::size_t stride = frame_.stride();
+    int block = 0;
+    mpv_render_param params[]{
+        {MPV_RENDER_PARAM_SW_SIZE, size},
+        {MPV_RENDER_PARAM_SW_FORMAT, const_cast<char*>(FrameBuffer::kMpvFormat)},
+        {MPV_RENDER_PARAM_SW_STRIDE, &stride},
+        {MPV_RENDER_PARAM_SW_POINTER, frame_.pixels()},
+        {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
+        {MPV_RENDER_PARAM_INVALID, nullptr},
+    };
+    hasFrame_ = mpv_render_context_render(binding_.context(), params) >= 0;
+    update();
+}
+
+void SoftwareVideoSurface::resizeEvent(QResizeEvent*) {
+    // A paused movie gets no new frame: draw the current one again at the new size.
+    if (hasFrame_)
+        renderFrame();
+}
+
+void SoftwareVideoSurface::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!hasFrame_ || !binding_.context()) {
+        painter.fillRect(rect(), Qt::black);
+        return;
+    }
+    painter.drawImage(QPointF(0, 0), frame_.image());
+    if (newFrame_) {
+        newFrame_ = false;
+        source_->frameShown();
+    }
+}

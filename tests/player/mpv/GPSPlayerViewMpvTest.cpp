@@ -1,0 +1,130 @@
+// The movie view with the real mpv player and surface, on the fixture movies: what the main window
+// would see through the delegate.
+
+#include "GPSPlayerView.h"
+#include "GPSPlayerViewDelegate.h"
+#include "MpvPlayerFactory.h"
+#include "MpvTestSupport.h"
+#include "PlayerTestSupport.h"
+#include "QtUpdateTimer.h"
+#include "VideoSurfaceFactory.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <utility>
+#include <vector>
+
+namespace {
+
+class RecordingDelegate final : public GPSPlayerViewDelegate {
+public:
+    void UpdatedGPSInfo(GPSPlayerView&, const GPSData& data, uint64_t index) override {
+        samples.emplace_back(index, data);
+    }
+    void UpdateDuration(GPSPlayerView&, double value) override { progress.push_back(value); }
+    void UpdatedPlayingStatus(GPSPlayerView&, bool playing) override { statuses.push_back(playing); }
+    void Completed(GPSPlayerView&) override { ++completed; }
+
+    bool playing() const { return !statuses.empty() && statuses.back(); }
+
+    std::vector<std::pair<uint64_t, GPSData>> samples;
+    std::vector<double> progress;
+    std::vector<bool> statuses;
+    int completed = 0;
+};
+
+class GPSPlayerViewMpvTest : public ::testing::Test {
+protected:
+    GPSPlayerViewMpvTest() {
+        view_.setDelegate(&delegate_);
+        view_.resize(320, 180);
+        view_.show();
+    }
+
+    TempSettings settings_;
+    GPSPlayerView view_{makeMediaPlayerFactory(), makeVideoSurface, std::make_unique<QtUpdateTimer>(),
+                        settings_.utils()};
+    RecordingDelegate delegate_;
+};
+
+TEST_F(GPSPlayerViewMpvTest, PlaysAMovieReportingItsSamplesInOrderUpToTheEnd) {
+    view_.setMovie(fixtureMovie("index_mp4.mp4"));
+    ASSERT_TRUE(view_.IsReady());
+    EXPECT_NEAR(view_.duration(), 10.0, 0.1);
+    ASSERT_TRUE(view_.gpsDataList().has_value());
+    EXPECT_EQ(view_.gpsDataList()->size(), 11u);
+
+    view_.Resume();
+    ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() >= 3; }));
+    EXPECT_TRUE(delegate_.playing());
+    // Position 0 is the empty sample; record k is row k + 1 of the fixture route, as precise as
+    // the camera's record form keeps it.
+    struct Expected {
+        uint64_t index;
+        float latitude;
+        float longitude;
+        float speed;
+    };
+    const Expected expected[] = {{0, 0.0f, 0.0f, 0.0f}, {1, 22.298280f, 114.172045f, 18.5f}, {2, 22.298341f, 114.172042f, 12.0f}};
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        SCOPED_TRACE(i);
+        const auto& [index, sample] = delegate_.samples[i];
+        EXPECT_EQ(index, expected[i].index);
+        EXPECT_NEAR(sample.Latitude(), expected[i].latitude, 1e-4);
+        EXPECT_NEAR(sample.Longitude(), expected[i].longitude, 1e-4);
+        EXPECT_NEAR(sample.SpeedMPH(), expected[i].speed, 0.05);
+    }
+    ASSERT_FALSE(delegate_.progress.empty());
+    EXPECT_GE(delegate_.progress.back(), 0.2);
+    EXPECT_LT(delegate_.progress.back(), 0.4);
+
+    // Paused and moved, it reports nothing until it plays again, then the sample of the new place.
+    view_.Pause();
+    ASSERT_TRUE(runUntil([&] { return !delegate_.playing(); }));
+    view_.Seek(0.6);
+    runFor(30);
+    const std::size_t reported = delegate_.samples.size();
+    EXPECT_FALSE(view_.IsPlaying());
+    view_.Resume();
+    ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() > reported; }));
+    EXPECT_EQ(delegate_.samples[reported].first, 6u);
+
+    // To the end: playing stops, and every tick at rest there reports the end.
+    view_.Seek(0.9);
+    ASSERT_TRUE(runUntil([&] { return delegate_.completed >= 3; }));
+    EXPECT_FALSE(delegate_.playing());
+    EXPECT_EQ(view_.mediaPlayer()->currentTime().seconds(), view_.duration());
+    EXPECT_GE(delegate_.samples.back().first, 9u);
+}
+
+TEST_F(GPSPlayerViewMpvTest, AMovieWithoutGPSPlaysWithoutSamples) {
+    view_.setMovie(fixtureMovie("nogps.mov"));
+    ASSERT_TRUE(view_.IsReady());
+    ASSERT_TRUE(view_.gpsDataList().has_value());
+    EXPECT_TRUE(view_.gpsDataList()->empty());
+    view_.Resume();
+    ASSERT_TRUE(runUntil([&] { return !delegate_.progress.empty() && delegate_.progress.back() > 0.1; }));
+    EXPECT_TRUE(delegate_.playing());
+    EXPECT_TRUE(delegate_.samples.empty());
+}
+
+TEST_F(GPSPlayerViewMpvTest, WhatIsNotAMovieLeavesTheViewEmpty) {
+    view_.setMovie(fixtureMovie("index_mp4.mp4"));
+    ASSERT_TRUE(view_.IsReady());
+    QTemporaryDir dir;
+    const std::filesystem::path text = std::filesystem::path(dir.path().toStdString()) / "notes.mov";
+    std::ofstream(text) << "not a movie\n";
+    view_.setMovie(text);
+    EXPECT_FALSE(view_.IsReady());
+    EXPECT_FALSE(delegate_.playing());
+    view_.Resume();
+    runFor(30);
+    EXPECT_TRUE(delegate_.progress.empty());
+    EXPECT_TRUE(delegate_.samples.empty());
+    EXPECT_EQ(delegate_.completed, 0);
+}
+
+}  // namespace
