@@ -2,11 +2,11 @@
 
 #include "GPSRecord.h"
 
-#include <bit>
 #include <fcntl.h>
+#include <unistd.h>
+#include <bit>
 #include <stdexcept>
 #include <string_view>
-#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -76,8 +76,8 @@ Bytes track(uint16_t width, uint16_t height, const Bytes& stsd, const Bytes& stc
     Bytes tkhd(76, 0);
     putU32(tkhd, uint32_t(width) << 16);
     putU32(tkhd, uint32_t(height) << 16);
-    return box("trak", join({box("tkhd", tkhd), box("mdia", box("minf", box("stbl", join({box("stsd", stsd),
-                                                                                           box("stco", stco)}))))}));
+    return box("trak", join({box("tkhd", tkhd),
+                             box("mdia", box("minf", box("stbl", join({box("stsd", stsd), box("stco", stco)}))))}));
 }
 
 Bytes soundStsd() {

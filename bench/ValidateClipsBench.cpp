@@ -17,8 +17,7 @@ constexpr int clipCount = 500;
 // write it), so a one-minute clip costs about as much to test as this one.
 class ClipFolder {
 public:
-    ClipFolder()
-    {
+    ClipFolder() {
         std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-clips-XXXXXX").string();
         directory_ = ::mkdtemp(pattern.data());
         for (int i = 0; i < clipCount; ++i) {
@@ -38,8 +37,7 @@ private:
     std::vector<std::filesystem::path> files_;
 };
 
-void validateFolder(benchmark::State& state)
-{
+void validateFolder(benchmark::State& state) {
     const ClipFolder folder;
     const GPSUtils utils({.userFile = {}, .shippedFile = {}});
     std::size_t valid = 0;
@@ -48,13 +46,12 @@ void validateFolder(benchmark::State& state)
         valid = result.size();
         benchmark::DoNotOptimize(result.data());
     }
-    if (valid != folder.files().size())
-        state.SkipWithError("not every clip was taken for a movie");
-    state.counters["per_clip"] = benchmark::Counter(
-        static_cast<double>(state.iterations() * clipCount), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    if (valid != folder.files().size()) state.SkipWithError("not every clip was taken for a movie");
+    state.counters["per_clip"] = benchmark::Counter(static_cast<double>(state.iterations() * clipCount),
+                                                    benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 BENCHMARK(validateFolder)->Unit(benchmark::kMillisecond)->UseRealTime();
 
-} // namespace
+}  // namespace
 
 BENCHMARK_MAIN();

@@ -17,7 +17,8 @@ constexpr std::pair<std::string_view, SpeedUnit> kUnits[] = {
 std::optional<std::string> applyFormat(Invocation& invocation, std::string_view value) {
     if (!findTrackFormat(value)) {
         std::string known;
-        for (const TrackFormat& format : trackFormats()) known += (known.empty() ? "" : ", ") + std::string(format.name);
+        for (const TrackFormat& format : trackFormats())
+            known += (known.empty() ? "" : ", ") + std::string(format.name);
         return "unknown format '" + displayName(value) + "': use " + known;
     }
     invocation.format = value;
@@ -25,7 +26,8 @@ std::optional<std::string> applyFormat(Invocation& invocation, std::string_view 
 }
 
 std::optional<std::string> applyUnit(Invocation& invocation, std::string_view value) {
-    const auto unit = std::find_if(std::begin(kUnits), std::end(kUnits), [&](const auto& u) { return u.first == value; });
+    const auto unit =
+        std::find_if(std::begin(kUnits), std::end(kUnits), [&](const auto& u) { return u.first == value; });
     if (unit == std::end(kUnits)) return "unknown unit '" + displayName(value) + "': use mph or kmh";
     invocation.unit = unit->second;
     return std::nullopt;
@@ -37,7 +39,8 @@ std::optional<std::string> applyHelp(Invocation& invocation, std::string_view) {
 }
 
 constexpr Option kOptions[] = {
-    {"--format", "-f", "FORMAT", "the document to write, from the formats below (default json)", "extract", applyFormat},
+    {"--format", "-f", "FORMAT", "the document to write, from the formats below (default json)", "extract",
+     applyFormat},
     {"--unit", "-u", "UNIT", "mph (default) or kmh: the unit of the speed texts in csv, gpx, geojson and kml",
      "extract", applyUnit},
     {"--help", "-h", "", "print this help and exit", "", applyHelp},
@@ -90,7 +93,8 @@ ParsedArguments CommandLine::parse(std::span<const std::string> arguments) {
 
         std::string_view value;
         if (option->valueName.empty()) {
-            if (equals != std::string::npos) return failure("option '" + std::string(option->name) + "' takes no value");
+            if (equals != std::string::npos)
+                return failure("option '" + std::string(option->name) + "' takes no value");
         } else if (equals != std::string::npos) {
             value = std::string_view(argument).substr(equals + 1);
         } else if (i + 1 < arguments.size()) {
@@ -110,6 +114,7 @@ ParsedArguments CommandLine::parse(std::span<const std::string> arguments) {
     const Command* command = findCommand(invocation.command);
     if (!command) return failure("unknown command '" + displayName(invocation.command) + "'");
     if (auto error = misplacedOption(invocation)) return failure(std::move(*error));
-    if (command->needsFiles && invocation.files.empty()) return failure("missing FILE for '" + invocation.command + "'");
+    if (command->needsFiles && invocation.files.empty())
+        return failure("missing FILE for '" + invocation.command + "'");
     return {std::move(invocation), {}};
 }

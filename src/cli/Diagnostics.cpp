@@ -12,7 +12,10 @@
 namespace {
 
 constexpr std::array<std::pair<char, std::string_view>, 4> kEscapes{{
-    {'\\', "\\\\"}, {'\n', "\\n"}, {'\r', "\\r"}, {'\t', "\\t"},
+    {'\\', "\\\\"},
+    {'\n', "\\n"},
+    {'\r', "\\r"},
+    {'\t', "\\t"},
 }};
 
 }  // namespace

@@ -20,7 +20,8 @@ std::string jsonTime(const GPSData& sample) {
     return time ? jsonString(*time) : "null";
 }
 
-std::string jsonArray(const std::vector<const GPSData*>& samples, const std::function<std::string(const GPSData&)>& item) {
+std::string jsonArray(const std::vector<const GPSData*>& samples,
+                      const std::function<std::string(const GPSData&)>& item) {
     std::string array = "[";
     for (const GPSData* sample : samples) {
         if (array.size() > 1) array += ", ";
@@ -47,8 +48,7 @@ void GeoJsonTrackWriter::file(const NamedTrack& named) {
         if (hasMapPosition(sample)) drawn.push_back(&sample);
 
     out_ << (written_++ > 0 ? ",\n" : "\n") << "{\"type\": \"Feature\", \"properties\": {"
-         << "\"file\": " << jsonString(named.file)
-         << ", \"speedUnit\": " << jsonString(speedUnitName(unit_))
+         << "\"file\": " << jsonString(named.file) << ", \"speedUnit\": " << jsonString(speedUnitName(unit_))
          << ", \"maxSpeed\": " << jsonNumber(maximumIn(unit_, named.track.maxSpeed))
          << ", \"times\": " << jsonArray(drawn, jsonTime)
          << ", \"speeds\": " << jsonArray(drawn, [this](const GPSData& s) { return jsonNumber(speedIn(unit_, s)); })

@@ -13,7 +13,13 @@ namespace {
 
 // Characters with a short escape; the other control characters use \u00XX.
 constexpr std::array<std::pair<char32_t, std::string_view>, 7> kShortEscapes{{
-    {U'"', "\\\""}, {U'\\', "\\\\"}, {U'\b', "\\b"}, {U'\f', "\\f"}, {U'\n', "\\n"}, {U'\r', "\\r"}, {U'\t', "\\t"},
+    {U'"', "\\\""},
+    {U'\\', "\\\\"},
+    {U'\b', "\\b"},
+    {U'\f', "\\f"},
+    {U'\n', "\\n"},
+    {U'\r', "\\r"},
+    {U'\t', "\\t"},
 }};
 
 }  // namespace

@@ -62,8 +62,7 @@ void JsonTrackWriter::file(const NamedTrack& named) {
     if (severalFiles_) out_ << "\"file\": " << jsonString(named.file) << ", ";
     out_ << "\"maxSpeed\": " << jsonNumber(named.track.maxSpeed) << ", \"samples\": [";
     const auto& samples = named.track.samples;
-    for (std::size_t i = 0; i < samples.size(); ++i)
-        out_ << (i == 0 ? "\n  " : ",\n  ") << sampleObject(samples[i]);
+    for (std::size_t i = 0; i < samples.size(); ++i) out_ << (i == 0 ? "\n  " : ",\n  ") << sampleObject(samples[i]);
     out_ << (samples.empty() ? "]}" : "\n]}");
 }
 

@@ -9,8 +9,13 @@
 namespace {
 
 constexpr std::array<std::pair<char32_t, std::string_view>, 7> kEscapes{{
-    {U'&', "&amp;"}, {U'<', "&lt;"}, {U'>', "&gt;"}, {U'"', "&quot;"},
-    {U'\t', "&#9;"}, {U'\n', "&#10;"}, {U'\r', "&#13;"},
+    {U'&', "&amp;"},
+    {U'<', "&lt;"},
+    {U'>', "&gt;"},
+    {U'"', "&quot;"},
+    {U'\t', "&#9;"},
+    {U'\n', "&#10;"},
+    {U'\r', "&#13;"},
 }};
 
 bool allowedInXml(char32_t c) { return c >= 0x20 && c != 0xFFFE && c != 0xFFFF; }

@@ -66,9 +66,15 @@ void GPSData::SetData(GPSDATA record, bool isMP4) {
     data_ = record;
     RMCINFO& f = data_.rmcinfo;
     switch (formOf(record, isMP4)) {
-    case GPSRecordForm::MP4: normaliseMP4Form(f); break;
-    case GPSRecordForm::Scaled: normaliseScaledForm(f); break;
-    case GPSRecordForm::FixedPoint: normaliseFixedPointForm(f); break;
+        case GPSRecordForm::MP4:
+            normaliseMP4Form(f);
+            break;
+        case GPSRecordForm::Scaled:
+            normaliseScaledForm(f);
+            break;
+        case GPSRecordForm::FixedPoint:
+            normaliseFixedPointForm(f);
+            break;
     }
     if (f.Year >= 2000) f.Year -= 2000;
 }

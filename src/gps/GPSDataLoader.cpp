@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 
 namespace {
@@ -47,7 +47,8 @@ public:
         if (file.read(block) != block.size()) return;
         if (!GPSDataLoader::isGPSData(block.data())) return;
 
-        const GPSDATA raw = decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block.data() + kGPSHeaderSize, kGPSRecordSize));
+        const GPSDATA raw =
+            decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block.data() + kGPSHeaderSize, kGPSRecordSize));
         GPSData sample;
         sample.SetData(raw, isMP4);
         max_ = std::max(max_, double(sample.data().rmcinfo.Speed));
@@ -70,8 +71,7 @@ void readIndexLayout(SeekableFile& file, FileRange gps, bool isMP4, TrackBuilder
     // Stop at the entries the index actually holds, whatever its count claims.
     const uint64_t entriesHeld = (index.size() - 8) / 8;
     const uint64_t entries = std::min<uint64_t>(entryCount, entriesHeld);
-    for (uint64_t i = 0; i < entries; ++i)
-        builder.addBlockAt(file, readU32BE(index.data() + 8 + 8 * i), isMP4);
+    for (uint64_t i = 0; i < entries; ++i) builder.addBlockAt(file, readU32BE(index.data() + 8 + 8 * i), isMP4);
 }
 
 // The byte distance from a sound chunk's start to its GPS block: one second of sound rounded up

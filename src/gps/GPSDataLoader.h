@@ -24,7 +24,7 @@ struct GPSTrack {
     GPSLayout layout = GPSLayout::None;
     bool isMP4 = false;
     bool opened = false;
-    int openError = 0;  // errno of a failed open
+    int openError = 0;                      // errno of a failed open
     std::size_t formCounts[3] = {0, 0, 0};  // samples per GPSRecordForm
 };
 

@@ -17,9 +17,9 @@ void writeU32LE(uint8_t* p, uint32_t v) {
 }
 
 // Field offsets within the 76-byte record.
-constexpr std::size_t kIQVer = 0, kIQBuildDate = 16, kHour = 32, kMinute = 36, kSecond = 40,
-                      kYear = 44, kMonth = 48, kDay = 52, kStatus = 56, kNSInd = 57, kEWInd = 58,
-                      kReserved = 59, kLatitude = 60, kLongitude = 64, kSpeed = 68, kAngle = 72;
+constexpr std::size_t kIQVer = 0, kIQBuildDate = 16, kHour = 32, kMinute = 36, kSecond = 40, kYear = 44, kMonth = 48,
+                      kDay = 52, kStatus = 56, kNSInd = 57, kEWInd = 58, kReserved = 59, kLatitude = 60,
+                      kLongitude = 64, kSpeed = 68, kAngle = 72;
 
 }  // namespace
 

@@ -11,16 +11,16 @@ struct RMCINFO {
     uint32_t Hour = 0;
     uint32_t Minute = 0;
     uint32_t Second = 0;
-    uint32_t Year = 0;   // year of the century once normalised (2016 -> 16)
+    uint32_t Year = 0;  // year of the century once normalised (2016 -> 16)
     uint32_t Month = 0;
     uint32_t Day = 0;
     char Status = 0;
-    char NSInd = 0;      // 'N' north, anything else south
-    char EWInd = 0;      // 'E' east, anything else west
+    char NSInd = 0;  // 'N' north, anything else south
+    char EWInd = 0;  // 'E' east, anything else west
     char reserved = 0;
     float Latitude = 0;  // raw before normalising: float, or int32 in 1e-7 degree (fixed-point form)
     float Longitude = 0;
-    float Speed = 0;     // raw before normalising: float, or uint32 in cm/s (fixed-point form)
+    float Speed = 0;  // raw before normalising: float, or uint32 in cm/s (fixed-point form)
     float Angle = 0;
 };
 

@@ -1,11 +1,11 @@
 #include "SeekableFile.h"
 
-#include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 std::size_t SeekableFile::read(std::span<uint8_t> buffer) {
     const std::size_t got = readAt(position_, buffer);

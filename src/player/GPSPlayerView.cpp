@@ -21,10 +21,8 @@ namespace {
 constexpr std::chrono::milliseconds kTickInterval{100};
 }
 
-GPSPlayerView::GPSPlayerView(std::shared_ptr<MediaPlayerFactory> playerFactory,
-                             const SurfaceMaker& makeSurface,
-                             std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings,
-                             QWidget* parent)
+GPSPlayerView::GPSPlayerView(std::shared_ptr<MediaPlayerFactory> playerFactory, const SurfaceMaker& makeSurface,
+                             std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings, QWidget* parent)
     : QWidget(parent),
       playerFactory_(std::move(playerFactory)),
       updateTimer_(updateTimer ? std::move(updateTimer) : std::make_unique<QtUpdateTimer>()),
@@ -122,8 +120,7 @@ void GPSPlayerView::Stop() {
     if (mediaPlayer_) {
         mediaPlayer_->pause();
         // The empty player blanks the picture before the movie's player goes away.
-        std::unique_ptr<MediaPlayer> empty =
-            playerFactory_ ? playerFactory_->emptyPlayer() : nullptr;
+        std::unique_ptr<MediaPlayer> empty = playerFactory_ ? playerFactory_->emptyPlayer() : nullptr;
         showInSurface(empty.get());
         StopTimer();
         mediaPlayer_.reset();
@@ -144,7 +141,8 @@ void GPSPlayerView::StartTimer() {
     // Each firing only posts the tick: it runs in a later turn of the event loop, never inside
     // the timer's callback, and one posted before Stop still runs after it.
     updateTimer_->start(kTickInterval, [this] {
-        QMetaObject::invokeMethod(this, [this] { tick(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { tick(); }, Qt::QueuedConnection);
     });
 }
 
@@ -153,8 +151,7 @@ void GPSPlayerView::StopTimer() {
 }
 
 void GPSPlayerView::tick() {
-    const PlayerStatus status =
-        mediaPlayer_ ? mediaPlayer_->timeControlStatus() : PlayerStatus::Paused;
+    const PlayerStatus status = mediaPlayer_ ? mediaPlayer_->timeControlStatus() : PlayerStatus::Paused;
     if (static_cast<int64_t>(status) != prevStatus_) {
         prevStatus_ = static_cast<int64_t>(status);
         if (delegate_) delegate_->UpdatedPlayingStatus(*this, status == PlayerStatus::Playing);

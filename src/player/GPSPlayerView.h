@@ -35,8 +35,7 @@ public:
     explicit GPSPlayerView(QWidget* parent = nullptr);
     // Every outside service chosen by the caller; tests pass fakes. settings must outlive the view.
     GPSPlayerView(std::shared_ptr<MediaPlayerFactory> playerFactory, const SurfaceMaker& makeSurface,
-                  std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings,
-                  QWidget* parent = nullptr);
+                  std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings, QWidget* parent = nullptr);
     ~GPSPlayerView() override;
 
     // Plain fields, no side effects.

@@ -13,8 +13,7 @@ public:
     virtual ~GPSPlayerViewDelegate() = default;
 
     // A tick while playing reached a new sample position inside the track.
-    virtual void UpdatedGPSInfo(GPSPlayerView& /*view*/, const GPSData& /*data*/,
-                                uint64_t /*index*/) {}
+    virtual void UpdatedGPSInfo(GPSPlayerView& /*view*/, const GPSData& /*data*/, uint64_t /*index*/) {}
     // Every tick while playing: playback time over duration.
     virtual void UpdateDuration(GPSPlayerView& /*view*/, double /*progress*/) {}
     // The playing status changed, and at the end of every Stop (with false).

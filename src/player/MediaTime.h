@@ -15,8 +15,7 @@ struct MediaTime {
     bool isValid() const { return timescale > 0; }
     // Seconds as a double; an invalid time gives not-a-number.
     double seconds() const {
-        return isValid() ? static_cast<double>(value) / timescale
-                         : std::numeric_limits<double>::quiet_NaN();
+        return isValid() ? static_cast<double>(value) / timescale : std::numeric_limits<double>::quiet_NaN();
     }
     friend bool operator==(const MediaTime&, const MediaTime&) = default;
 };

@@ -1,7 +1,6 @@
 #include "VolumeState.h"
 
-VolumeState::VolumeState(double storedVolume)
-    : lastVolume_(storedVolume > 0 ? storedVolume : kFallbackVolume) {}
+VolumeState::VolumeState(double storedVolume) : lastVolume_(storedVolume > 0 ? storedVolume : kFallbackVolume) {}
 
 void VolumeState::noteVolume(double volume) {
     if (volume > 0) lastVolume_ = volume;

@@ -14,97 +14,65 @@ const std::string volumeKey = "Volume";
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
 
-} // namespace
+}  // namespace
 
-GPSUtils& GPSUtils::sharedUtils()
-{
+GPSUtils& GPSUtils::sharedUtils() {
     static GPSUtils utils(SettingsLocation::standard());
     return utils;
 }
 
 GPSUtils::GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe)
-    : settings_(SettingsFile::load(location))
-    , probe_(probe ? std::move(probe) : defaultVideoTrackProbe())
-{
-}
+    : settings_(SettingsFile::load(location)), probe_(probe ? std::move(probe) : defaultVideoTrackProbe()) {}
 
-uint64_t GPSUtils::unitType() const
-{
-    return settings_.unsignedValue(unitTypeKey).value_or(0);
-}
+uint64_t GPSUtils::unitType() const { return settings_.unsignedValue(unitTypeKey).value_or(0); }
 
-void GPSUtils::setUnitType(uint64_t unitType)
-{
-    settings_.setUnsignedValue(unitTypeKey, unitType);
-}
+void GPSUtils::setUnitType(uint64_t unitType) { settings_.setUnsignedValue(unitTypeKey, unitType); }
 
-float GPSUtils::volume() const
-{
-    return static_cast<float>(settings_.realValue(volumeKey).value_or(0.0));
-}
+float GPSUtils::volume() const { return static_cast<float>(settings_.realValue(volumeKey).value_or(0.0)); }
 
-void GPSUtils::setVolume(float volume)
-{
-    settings_.setRealValue(volumeKey, volume);
-}
+void GPSUtils::setVolume(float volume) { settings_.setRealValue(volumeKey, volume); }
 
-std::string GPSUtils::SpeedUnitName() const
-{
-    return unitType() != 0 ? SpeedUnitNameKMH() : SpeedUnitNameMPH();
-}
+std::string GPSUtils::SpeedUnitName() const { return unitType() != 0 ? SpeedUnitNameKMH() : SpeedUnitNameMPH(); }
 
-int32_t GPSUtils::MaxSpeedMPH(float speed)
-{
+int32_t GPSUtils::MaxSpeedMPH(float speed) {
     // Truncation toward zero, then the next multiple of ten for a positive fraction. The speed is
     // clamped first, since converting a NaN or out-of-range float to an integer is undefined.
-    if (std::isnan(speed))
-        return 0;
+    if (std::isnan(speed)) return 0;
     constexpr double lowest = std::numeric_limits<int32_t>::min();
     constexpr double highest = std::numeric_limits<int32_t>::max();
     const double value = std::clamp(static_cast<double>(speed), lowest, highest);
     auto truncated = static_cast<int64_t>(value);
-    if (value > static_cast<double>(truncated))
-        truncated = (truncated + 10) / 10 * 10;
+    if (value > static_cast<double>(truncated)) truncated = (truncated + 10) / 10 * 10;
     return static_cast<int32_t>(std::min<int64_t>(truncated, std::numeric_limits<int32_t>::max()));
 }
 
-int32_t GPSUtils::MaxSpeedKMH(float speed)
-{
+int32_t GPSUtils::MaxSpeedKMH(float speed) {
     const float kilometres = speed * kmhPerMPH;
     return MaxSpeedMPH(kilometres);
 }
 
-const std::optional<std::filesystem::path>& GPSUtils::envURL() const
-{
-    return settings_.path();
-}
+const std::optional<std::filesystem::path>& GPSUtils::envURL() const { return settings_.path(); }
 
-bool GPSUtils::isValidURL(const std::optional<std::filesystem::path>& url) const
-{
+bool GPSUtils::isValidURL(const std::optional<std::filesystem::path>& url) const {
     return url && probe_->hasVideoTrack(*url);
 }
 
-std::vector<std::filesystem::path> GPSUtils::validURLs(const std::vector<std::filesystem::path>& urls) const
-{
+std::vector<std::filesystem::path> GPSUtils::validURLs(const std::vector<std::filesystem::path>& urls) const {
     std::vector<std::filesystem::path> valid;
     std::copy_if(urls.begin(), urls.end(), std::back_inserter(valid),
                  [this](const std::filesystem::path& url) { return isValidURL(url); });
     return valid;
 }
 
-std::vector<std::filesystem::path> GPSUtils::validURLsWithPasteboard(const FilePasteboard& pasteboard) const
-{
+std::vector<std::filesystem::path> GPSUtils::validURLsWithPasteboard(const FilePasteboard& pasteboard) const {
     std::vector<std::filesystem::path> valid;
-    if (!pasteboard.filenames)
-        return valid;
+    if (!pasteboard.filenames) return valid;
     for (const auto& name : *pasteboard.filenames) {
-        if (name.empty())
-            continue;
+        if (name.empty()) continue;
         // Dropped names become absolute, as file URLs are, against the current folder.
         std::error_code error;
         auto url = std::filesystem::absolute(name, error);
-        if (!error && isValidURL(url))
-            valid.push_back(std::move(url));
+        if (!error && isValidURL(url)) valid.push_back(std::move(url));
     }
     return valid;
 }

@@ -36,8 +36,8 @@ public:
     void cancel() { worker_.request_stop(); }
 
 private:
-    static std::optional<Files> run(const std::stop_token& stop, const VideoTrackProbe& probe,
-                                    const Files& files, const Progress& progress);
+    static std::optional<Files> run(const std::stop_token& stop, const VideoTrackProbe& probe, const Files& files,
+                                    const Progress& progress);
 
     std::shared_future<std::optional<Files>> result_;
     // Last, so it is joined before the members above go away.

@@ -19,10 +19,8 @@ struct GoldenCase {
 };
 
 const GoldenCase kGoldenCases[] = {
-    {"json", SpeedUnit::MPH, "sample_movies.json"},
-    {"csv", SpeedUnit::KMH, "sample_movies_kmh.csv"},
-    {"gpx", SpeedUnit::MPH, "sample_movies.gpx"},
-    {"geojson", SpeedUnit::MPH, "sample_movies.geojson"},
+    {"json", SpeedUnit::MPH, "sample_movies.json"}, {"csv", SpeedUnit::KMH, "sample_movies_kmh.csv"},
+    {"gpx", SpeedUnit::MPH, "sample_movies.gpx"},   {"geojson", SpeedUnit::MPH, "sample_movies.geojson"},
     {"kml", SpeedUnit::MPH, "sample_movies.kml"},
 };
 

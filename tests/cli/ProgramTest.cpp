@@ -60,11 +60,8 @@ TEST(Program, AnUnreadableFileIsReportedAndTheOthersStillPrint) {
         const char* format;
         const char* perFile;
     } cases[] = {
-        {"json", "{\"file\": "},
-        {"csv", "\n/"},  // the file column starts each row
-        {"gpx", "<trk>"},
-        {"kml", "<Placemark>"},
-        {"geojson", "{\"type\": \"Feature\""},
+        {"json", "{\"file\": "}, {"csv", "\n/"},  // the file column starts each row
+        {"gpx", "<trk>"},        {"kml", "<Placemark>"}, {"geojson", "{\"type\": \"Feature\""},
     };
     for (const auto& c : cases) {
         const ProgramResult run = runTool({"extract", "--format", c.format, missing, movie});

@@ -54,7 +54,8 @@ std::vector<NamedTrack> sampleMovies() {
                            fixedPointSample(-338688000, -1512093000, 0, {2016, 12, 31, 20, 5, 10}),
                            fixedPointSample(0, 0, 1000, {2016, 0, 0, 0, 0, 0}),
                        })},
-        {"b \"quoted\", <odd> & 'new'\nline.mov", trackOf({fixedPointSample(515000000, -1200000, 1500, {2017, 2, 28, 23, 59, 59})})},
+        {"b \"quoted\", <odd> & 'new'\nline.mov",
+         trackOf({fixedPointSample(515000000, -1200000, 1500, {2017, 2, 28, 23, 59, 59})})},
         {"empty.mov", trackOf({})},
     };
 }

@@ -27,11 +27,16 @@ TEST(JsonText, EscapesWhatJsonForbidsAndRepairsBrokenUtf8) {
         {"short escapes", "\b\f\n\r\t", "\"\\b\\f\\n\\r\\t\""},
         {"other control characters", std::string("\x01\x1f\0", 3), "\"\\u0001\\u001f\\u0000\""},
         {"DEL and slash need no escape", "\x7f/", "\"\x7f/\""},
-        {"valid multi-byte kept", "K\xC3\xB6ln \xE2\x82\xAC \xF0\x9F\x9A\x97", "\"K\xC3\xB6ln \xE2\x82\xAC \xF0\x9F\x9A\x97\""},
+        {"valid multi-byte kept", "K\xC3\xB6ln \xE2\x82\xAC \xF0\x9F\x9A\x97",
+         "\"K\xC3\xB6ln \xE2\x82\xAC \xF0\x9F\x9A\x97\""},
         {"Latin-1 byte", "caf\xE9.mov", "\"caf\xEF\xBF\xBD.mov\""},
         {"stray continuation byte", "a\x80z", "\"a\xEF\xBF\xBDz\""},
         {"truncated sequence at end", "x\xE2\x82", "\"x\xEF\xBF\xBD\""},
-        {"truncated sequence keeps next char", "\xE2\x82" "a", "\"\xEF\xBF\xBD" "a\""},
+        {"truncated sequence keeps next char",
+         "\xE2\x82"
+         "a",
+         "\"\xEF\xBF\xBD"
+         "a\""},
         {"overlong slash", "\xC0\xAF", "\"\xEF\xBF\xBD\xEF\xBF\xBD\""},
         {"UTF-16 surrogate", "\xED\xA0\x80", "\"\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\""},
         {"beyond U+10FFFF", "\xF4\x90\x80\x80", "\"\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD\""},

@@ -42,7 +42,7 @@ TEST(JsonTrackWriter, SampleNumbersReadBackAsTheStoredFloats) {
     for (int i = 0; i < 300; ++i)
         samples.push_back(fixedPointSample(int32_t(next() % 1800000001u) - 900000000,
                                            int32_t(next() % 3600000001u - 1800000000u), next() % 9000));
-    samples.push_back(fixedPointSample(1, -7, 1));  // 1e-07: the shortest form has an exponent
+    samples.push_back(fixedPointSample(1, -7, 1));                // 1e-07: the shortest form has an exponent
     samples.push_back(scaledSample(0.0f, 0.0f, 0.0f, 'S', 'W'));  // negative zero
 
     const std::string json = render("json", {{"a.mov", trackOf(samples)}});
@@ -52,7 +52,8 @@ TEST(JsonTrackWriter, SampleNumbersReadBackAsTheStoredFloats) {
         const std::vector<float> printed = numbersAfter(json, name);
         ASSERT_EQ(printed.size(), samples.size()) << name;
         for (std::size_t i = 0; i < samples.size(); ++i)
-            EXPECT_EQ(std::bit_cast<uint32_t>(printed[i]), std::bit_cast<uint32_t>((samples[i].*getter)())) << name << i;
+            EXPECT_EQ(std::bit_cast<uint32_t>(printed[i]), std::bit_cast<uint32_t>((samples[i].*getter)()))
+                << name << i;
     }
 }
 

@@ -11,8 +11,7 @@ FileRange find(const Bytes& bytes, std::string_view name, uint64_t offset = 0) {
 }
 
 TEST(BoxReaderTest, FileShorterThanAHeaderHasNoBoxes) {
-    for (std::size_t size = 0; size < 8; ++size)
-        EXPECT_FALSE(find(Bytes(size, 0x10), "ftyp").found()) << size;
+    for (std::size_t size = 0; size < 8; ++size) EXPECT_FALSE(find(Bytes(size, 0x10), "ftyp").found()) << size;
 }
 
 TEST(BoxReaderTest, FindsTopLevelBoxesPastMediaData) {
@@ -48,14 +47,15 @@ TEST_P(BoxTypeMatchTest, MatchesTypesExactly) {
     EXPECT_EQ(find(GetParam().movie, GetParam().wanted).found(), GetParam().found);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, BoxTypeMatchTest,
-    testing::Values(TypeCase{"Exact", box("gps ", Bytes(4)), "gps ", true},
-                    TypeCase{"CaseMatters", box("gps ", Bytes(4)), "GPS ", false},
-                    TypeCase{"ZeroByteInTypeNeverMatches", box(std::string_view("gp\0 ", 4), Bytes(4)), std::string_view("gp\0 ", 4), false},
-                    TypeCase{"PrefixIsNoMatch", box("gpsx", Bytes(4)), "gps", false},
-                    TypeCase{"EmptyPayloadMatches", box("free"), "free", true}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Types, BoxTypeMatchTest,
+                         testing::Values(TypeCase{"Exact", box("gps ", Bytes(4)), "gps ", true},
+                                         TypeCase{"CaseMatters", box("gps ", Bytes(4)), "GPS ", false},
+                                         TypeCase{"ZeroByteInTypeNeverMatches",
+                                                  box(std::string_view("gp\0 ", 4), Bytes(4)),
+                                                  std::string_view("gp\0 ", 4), false},
+                                         TypeCase{"PrefixIsNoMatch", box("gpsx", Bytes(4)), "gps", false},
+                                         TypeCase{"EmptyPayloadMatches", box("free"), "free", true}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 Bytes rawBox(uint32_t size, std::string_view type) {
     Bytes out;

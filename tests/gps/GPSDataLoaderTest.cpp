@@ -3,9 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <cerrno>
 #include <filesystem>
-#include <sys/stat.h>
 #include <optional>
 
 namespace {
@@ -67,8 +67,8 @@ std::vector<std::string> latitudes(const GPSTrack& track) {
 using Texts = std::vector<std::string>;
 
 TEST(IndexLayoutTest, ReadsBlocksInIndexOrderAndSkipsBadOnes) {
-    const GPSTrack track = load(indexMovie(20, {fixedBlock(10000000), fixedBlock(20000000, 0, 0x4C),
-                                                fixedBlock(30000000), fixedBlock(40000000)}));
+    const GPSTrack track = load(indexMovie(
+        20, {fixedBlock(10000000), fixedBlock(20000000, 0, 0x4C), fixedBlock(30000000), fixedBlock(40000000)}));
     EXPECT_EQ(track.layout, GPSLayout::Index);
     EXPECT_EQ(latitudes(track), (Texts{"01.00000", "03.00000", "04.00000"}));
 }

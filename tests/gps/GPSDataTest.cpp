@@ -56,25 +56,34 @@ TEST_P(GPSDataFormTest, DecodesToTheShownTexts) {
 INSTANTIATE_TEST_SUITE_P(
     Forms, GPSDataFormTest,
     testing::Values(
-        FormCase{"Mp4EastShiftsIntoNewYear", dated(mp4Record(255.48216f, 'N', 2427.6987f, 'E', 60.0f), 16, 12, 31, 20, 5, 9),
-                 true, "22.50000", "114.25000", "60.00", "111.12", "01/01/17", "03:05:09"},
+        FormCase{"Mp4EastShiftsIntoNewYear",
+                 dated(mp4Record(255.48216f, 'N', 2427.6987f, 'E', 60.0f), 16, 12, 31, 20, 5, 9), true, "22.50000",
+                 "114.25000", "60.00", "111.12", "01/01/17", "03:05:09"},
         FormCase{"Mp4WestShiftsBack", dated(mp4Record(255.48216f, 'S', 2427.6987f, 'W', 5.3f), 16, 12, 31, 20, 5, 9),
                  true, "-22.50000", "-114.25000", "05.30", "09.82", "12/31/16", "13:05:09"},
         FormCase{"Mp4NearMeridianKeepsTime", dated(mp4Record(190.0f, 'N', 2229.0f, 'E', -75.0f), 2016, 6, 1, 10, 0, 0),
                  true, "00.67261", "14.90063", "75.00", "138.90", "06/01/16", "10:00:00"},
-        FormCase{"Mp4FifteenDegreesShiftsOneHour", dated(mp4Record(190.0f, 'N', 2229.2f, 'E', 250.0f), 16, 6, 1, 10, 0, 0),
-                 true, "00.67261", "15.00061", "200.00", "370.40", "06/01/16", "11:00:00"},
-        FormCase{"FixedPoint", dated(fixedPointRecord(225000000, 1142500000, 2778), 2016, 5, 17, 8, 30, 0),
-                 false, "22.50000", "114.25000", "62.14", "115.09", "05/17/16", "08:30:00"},
-        FormCase{"FixedPointSouthWestAndCap", dated(fixedPointRecord(-225000000, 15000000, 10000), 2016, 5, 17, 8, 30, 0),
-                 false, "-22.50000", "01.50000", "200.00", "370.40", "05/17/16", "08:30:00"},
+        FormCase{"Mp4FifteenDegreesShiftsOneHour",
+                 dated(mp4Record(190.0f, 'N', 2229.2f, 'E', 250.0f), 16, 6, 1, 10, 0, 0), true, "00.67261", "15.00061",
+                 "200.00", "370.40", "06/01/16", "11:00:00"},
+        FormCase{"FixedPoint", dated(fixedPointRecord(225000000, 1142500000, 2778), 2016, 5, 17, 8, 30, 0), false,
+                 "22.50000", "114.25000", "62.14", "115.09", "05/17/16", "08:30:00"},
+        FormCase{"FixedPointSouthWestAndCap",
+                 dated(fixedPointRecord(-225000000, 15000000, 10000), 2016, 5, 17, 8, 30, 0), false, "-22.50000",
+                 "01.50000", "200.00", "370.40", "05/17/16", "08:30:00"},
         FormCase{"FixedPointIgnoresIndicators",
-                 [] { GPSDATA r = fixedPointRecord(225000000, 1142500000, 0); r.rmcinfo.NSInd = 'S'; r.rmcinfo.EWInd = 'W'; return r; }(),
+                 [] {
+                     GPSDATA r = fixedPointRecord(225000000, 1142500000, 0);
+                     r.rmcinfo.NSInd = 'S';
+                     r.rmcinfo.EWInd = 'W';
+                     return r;
+                 }(),
                  false, "22.50000", "114.25000", "00.00", "00.00", "05/17/16", "08:30:00"},
-        FormCase{"ScaledNorth", dated(scaledRecord(2231.5f, 'N', 6855.0f, 'E', 10.0f), 16, 5, 17, 23, 59, 59),
-                 false, "22.36714", "68.55431", "11.51", "21.31", "05/17/16", "23:59:59"},
-        FormCase{"ScaledSouthWestNoShift", dated(scaledRecord(2231.5f, 'S', 6855.0f, 'W', 100.0f), 16, 12, 31, 23, 0, 0),
-                 false, "-22.36714", "-68.55431", "115.08", "213.12", "12/31/16", "23:00:00"}),
+        FormCase{"ScaledNorth", dated(scaledRecord(2231.5f, 'N', 6855.0f, 'E', 10.0f), 16, 5, 17, 23, 59, 59), false,
+                 "22.36714", "68.55431", "11.51", "21.31", "05/17/16", "23:59:59"},
+        FormCase{"ScaledSouthWestNoShift",
+                 dated(scaledRecord(2231.5f, 'S', 6855.0f, 'W', 100.0f), 16, 12, 31, 23, 0, 0), false, "-22.36714",
+                 "-68.55431", "115.08", "213.12", "12/31/16", "23:00:00"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(GPSDataTest, EmptySampleShowsZeros) {
@@ -155,17 +164,16 @@ constexpr const char* kNewYork = "EST5EDT,M3.2.0,M11.1.0";
 
 INSTANTIATE_TEST_SUITE_P(
     Calendar, HourShiftTest,
-    testing::Values(
-        ShiftCase{"IntoNextYear", "UTC0", at(16, 12, 31, 20, 5, 9), 7, at(2017, 1, 1, 3, 5, 9)},
-        ShiftCase{"BackIntoPreviousYear", "UTC0", at(17, 1, 1, 3), -7, at(2016, 12, 31, 20)},
-        ShiftCase{"LeapDay", "UTC0", at(2016, 2, 28, 22), 3, at(2016, 2, 29, 1)},
-        ShiftCase{"NoLeapDay", "UTC0", at(2015, 2, 28, 22), 3, at(2015, 3, 1, 1)},
-        ShiftCase{"MidnightAndNoon", "UTC0", at(16, 6, 1, 0), 12, at(2016, 6, 1, 12)},
-        ShiftCase{"SpringForward", kNewYork, at(16, 3, 13, 1, 30), 1, at(2016, 3, 13, 3, 30)},
-        ShiftCase{"FallBack", kNewYork, at(16, 11, 6, 0, 30), 2, at(2016, 11, 6, 1, 30)},
-        ShiftCase{"InvalidMonthUnchanged", "UTC0", at(16, 13, 1, 5), 7, at(16, 13, 1, 5)},
-        ShiftCase{"InvalidDayUnchanged", "UTC0", at(16, 4, 31, 5), 7, at(16, 4, 31, 5)},
-        ShiftCase{"InvalidHourUnchanged", "UTC0", at(16, 4, 1, 24), 7, at(16, 4, 1, 24)}),
+    testing::Values(ShiftCase{"IntoNextYear", "UTC0", at(16, 12, 31, 20, 5, 9), 7, at(2017, 1, 1, 3, 5, 9)},
+                    ShiftCase{"BackIntoPreviousYear", "UTC0", at(17, 1, 1, 3), -7, at(2016, 12, 31, 20)},
+                    ShiftCase{"LeapDay", "UTC0", at(2016, 2, 28, 22), 3, at(2016, 2, 29, 1)},
+                    ShiftCase{"NoLeapDay", "UTC0", at(2015, 2, 28, 22), 3, at(2015, 3, 1, 1)},
+                    ShiftCase{"MidnightAndNoon", "UTC0", at(16, 6, 1, 0), 12, at(2016, 6, 1, 12)},
+                    ShiftCase{"SpringForward", kNewYork, at(16, 3, 13, 1, 30), 1, at(2016, 3, 13, 3, 30)},
+                    ShiftCase{"FallBack", kNewYork, at(16, 11, 6, 0, 30), 2, at(2016, 11, 6, 1, 30)},
+                    ShiftCase{"InvalidMonthUnchanged", "UTC0", at(16, 13, 1, 5), 7, at(16, 13, 1, 5)},
+                    ShiftCase{"InvalidDayUnchanged", "UTC0", at(16, 4, 31, 5), 7, at(16, 4, 31, 5)},
+                    ShiftCase{"InvalidHourUnchanged", "UTC0", at(16, 4, 1, 24), 7, at(16, 4, 1, 24)}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST(GPSDataTest, Mp4FormKeepsAnInvalidDateButStillShortensTheYear) {
@@ -178,7 +186,8 @@ TEST(GPSDataTest, Mp4FormKeepsAnInvalidDateButStillShortensTheYear) {
 
 TEST(GPSDataTest, Mp4FormSurvivesNonFiniteValues) {
     TimeZoneGuard utc("UTC0");
-    const float values[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 3e38f, -3e38f};
+    const float values[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 3e38f,
+                            -3e38f};
     for (float v : values) {
         GPSData sample;
         sample.SetData(dated(mp4Record(v, 'N', v, 'E', v), 16, 1, 1, 0, 0, 0), true);

@@ -97,9 +97,10 @@ inline Bytes stco(const std::vector<uint32_t>& offsets, uint32_t entryCount) {
 }
 
 inline Bytes track(uint16_t width, uint16_t height, const Bytes& stsdPayload, const Bytes& stcoPayload) {
-    return box("trak", concat({box("tkhd", tkhd(width, height)),
-                               box("mdia", box("minf", box("stbl", concat({box("stsd", stsdPayload),
-                                                                            box("stco", stcoPayload)}))))}));
+    return box(
+        "trak",
+        concat({box("tkhd", tkhd(width, height)),
+                box("mdia", box("minf", box("stbl", concat({box("stsd", stsdPayload), box("stco", stcoPayload)}))))}));
 }
 
 // A record in the fixed-point form: whole degrees as 1e-7 integers, speed in cm/s.

@@ -14,8 +14,10 @@ public:
         tzset();
     }
     ~TimeZoneGuard() {
-        if (previous_) setenv("TZ", previous_->c_str(), 1);
-        else unsetenv("TZ");
+        if (previous_)
+            setenv("TZ", previous_->c_str(), 1);
+        else
+            unsetenv("TZ");
         tzset();
     }
     TimeZoneGuard(const TimeZoneGuard&) = delete;

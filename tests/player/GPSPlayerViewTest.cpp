@@ -38,13 +38,11 @@ protected:
             surface_ = surface.get();
             return surface;
         };
-        view_ = std::make_unique<GPSPlayerView>(factory_, makeSurface, std::move(timer),
-                                                settings_.utils());
+        view_ = std::make_unique<GPSPlayerView>(factory_, makeSurface, std::move(timer), settings_.utils());
         view_->setDelegate(&delegate_);
     }
     // Sets a movie on a fresh player paused at 0, and forgets the reports made so far.
-    std::shared_ptr<FakePlayerState> load(const std::filesystem::path& file = kTrackMovie,
-                                          double duration = 10.0) {
+    std::shared_ptr<FakePlayerState> load(const std::filesystem::path& file = kTrackMovie, double duration = 10.0) {
         auto state = std::make_shared<FakePlayerState>();
         state->duration = MediaTime::make(std::llround(duration * 100), 100);
         factory_->next = state;

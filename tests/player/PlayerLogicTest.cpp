@@ -27,12 +27,17 @@ TEST(TrackCursor, ReportsEachNewWholeSecondInsideTheTrackOnce) {
         std::optional<uint64_t> report;
         int64_t curIndexAfter;
     } steps[] = {
-        {0.5, 0, 0}, {0.9, std::nullopt, 0}, {1.0, 1, 1}, {3.9, 3, 3},
+        {0.5, 0, 0},
+        {0.9, std::nullopt, 0},
+        {1.0, 1, 1},
+        {3.9, 3, 3},
         {4.0, std::nullopt, 3},  // beyond the track the last position stays
-        {kNaN, std::nullopt, 3}, {1e300, std::nullopt, 3}, {0x1p63, std::nullopt, 3},
-        {2.5, 2, 2},             // playing or seeking back reports the earlier sample
+        {kNaN, std::nullopt, 3},
+        {1e300, std::nullopt, 3},
+        {0x1p63, std::nullopt, 3},
+        {2.5, 2, 2},  // playing or seeking back reports the earlier sample
         {-1.5, std::nullopt, 2},
-        {-0.5, 0, 0},            // truncated toward zero, not floored
+        {-0.5, 0, 0},  // truncated toward zero, not floored
     };
     for (const auto& s : steps) {
         EXPECT_EQ(cursor.advance(s.seconds, count), s.report) << "t = " << s.seconds;
@@ -45,8 +50,10 @@ TEST(PlaybackMath, SeekTargetsAreWholeHundredthsTowardZero) {
         double fraction, duration;
         std::optional<MediaTime> target;
     } cases[] = {
-        {0.5, 9.99, MediaTime::make(499, 100)},    {1.0, 40.0, MediaTime::make(4000, 100)},
-        {-0.5, 9.99, MediaTime::make(-499, 100)},  {0.5, kNaN, std::nullopt},
+        {0.5, 9.99, MediaTime::make(499, 100)},
+        {1.0, 40.0, MediaTime::make(4000, 100)},
+        {-0.5, 9.99, MediaTime::make(-499, 100)},
+        {0.5, kNaN, std::nullopt},
         {1e300, 10.0, std::nullopt},
     };
     for (const auto& c : cases) {

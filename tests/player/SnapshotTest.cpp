@@ -41,8 +41,9 @@ double meanAbsoluteDifference(const QImage& a, const QImage& b) {
 class SnapshotTest : public ::testing::Test {
 protected:
     SnapshotTest()
-        : view_(factory_, [](QWidget* parent) { return std::make_unique<RecordingSurface>(parent); },
-                std::make_unique<ManualUpdateTimer>(), settings_.utils()) {}
+        : view_(
+              factory_, [](QWidget* parent) { return std::make_unique<RecordingSurface>(parent); },
+              std::make_unique<ManualUpdateTimer>(), settings_.utils()) {}
 
     std::shared_ptr<FakePlayerState> load(const std::filesystem::path& file, double seconds) {
         auto state = std::make_shared<FakePlayerState>();
@@ -59,8 +60,8 @@ protected:
     QImage ffmpegFrame(double seconds) {
         const QString out = dir_.filePath("ffmpeg.png");
         QFile::remove(out);
-        runFfmpeg({"-ss", QString::number(seconds), "-i", QString::fromStdString(k720p.string()),
-                   "-frames:v", "1", "-f", "image2", out});
+        runFfmpeg({"-ss", QString::number(seconds), "-i", QString::fromStdString(k720p.string()), "-frames:v", "1",
+                   "-f", "image2", out});
         return QImage(out);
     }
 
@@ -130,8 +131,8 @@ TEST_F(SnapshotTest, FilesWithoutPicturesGiveNothing) {
 TEST_F(SnapshotTest, PictureKeepsItsStoredPixelSize) {
     // Stored 320x180 with pixels twice as wide as tall: shown at 640x180, saved at 320x180.
     const QString wide = dir_.filePath("wide.mov");
-    ASSERT_TRUE(runFfmpeg({"-f", "lavfi", "-i", "testsrc=size=320x180:rate=10:duration=1", "-vf",
-                           "setsar=2", "-pix_fmt", "yuv420p", wide}));
+    ASSERT_TRUE(runFfmpeg({"-f", "lavfi", "-i", "testsrc=size=320x180:rate=10:duration=1", "-vf", "setsar=2",
+                           "-pix_fmt", "yuv420p", wide}));
     load(wide.toStdString(), 0.5);
     EXPECT_EQ(snapshotImage().size(), QSize(320, 180));
 }

@@ -11,12 +11,22 @@ namespace {
 constexpr int32_t int32Max = std::numeric_limits<int32_t>::max();
 constexpr int32_t int32Min = std::numeric_limits<int32_t>::min();
 
-TEST(GPSUtils, MaxSpeedRoundsUpToTens)
-{
-    const struct { float speed; int32_t mph; int32_t kmh; } cases[] = {
-        {25.3f, 30, 50}, {30.5f, 40, 60}, {0.5f, 10, 10}, {9.99f, 10, 20}, {25.0f, 25, 50}, {0.0f, 0, 0},
-        {-5.5f, -5, -10}, {199.2f, 200, 370}, {std::nanf(""), 0, 0}, {1e10f, int32Max, int32Max},
-        {-1e10f, int32Min, int32Min}};
+TEST(GPSUtils, MaxSpeedRoundsUpToTens) {
+    const struct {
+        float speed;
+        int32_t mph;
+        int32_t kmh;
+    } cases[] = {{25.3f, 30, 50},
+                 {30.5f, 40, 60},
+                 {0.5f, 10, 10},
+                 {9.99f, 10, 20},
+                 {25.0f, 25, 50},
+                 {0.0f, 0, 0},
+                 {-5.5f, -5, -10},
+                 {199.2f, 200, 370},
+                 {std::nanf(""), 0, 0},
+                 {1e10f, int32Max, int32Max},
+                 {-1e10f, int32Min, int32Min}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.speed);
         EXPECT_EQ(GPSUtils::MaxSpeedMPH(c.speed), c.mph);
@@ -24,8 +34,7 @@ TEST(GPSUtils, MaxSpeedRoundsUpToTens)
     }
 }
 
-std::string binaryPlist(uint64_t unitType, double volume)
-{
+std::string binaryPlist(uint64_t unitType, double volume) {
     PlistNode root(plist_new_dict());
     plist_dict_set_item(root.get(), "UnitType", plist_new_uint(unitType));
     plist_dict_set_item(root.get(), "Volume", plist_new_real(volume));
@@ -37,9 +46,13 @@ std::string binaryPlist(uint64_t unitType, double volume)
     return result;
 }
 
-TEST(GPSUtils, ReadsNumbersOfTheExpectedTypeOnly)
-{
-    const struct { std::string contents; uint64_t unitType; float volume; const char* unitName; } cases[] = {
+TEST(GPSUtils, ReadsNumbersOfTheExpectedTypeOnly) {
+    const struct {
+        std::string contents;
+        uint64_t unitType;
+        float volume;
+        const char* unitName;
+    } cases[] = {
         {plistDictionary("<key>UnitType</key><integer>1</integer><key>Volume</key><real>0.6</real>"), 1, 0.6f, "KM/H"},
         {binaryPlist(2, 0.25), 2, 0.25f, "KM/H"},
         {plistDictionary("<key>UnitType</key><real>1.9</real><key>Volume</key><integer>1</integer>"), 1, 1.0f, "KM/H"},
@@ -68,8 +81,7 @@ protected:
     std::filesystem::path shipped = directory / "shipped" / "Env.plist";
 };
 
-TEST_F(GPSUtilsSettings, NoFileGivesDefaultsAndWritesNothing)
-{
+TEST_F(GPSUtilsSettings, NoFileGivesDefaultsAndWritesNothing) {
     GPSUtils utils(location());
     utils.setUnitType(1);
     utils.setVolume(0.5f);
@@ -80,8 +92,7 @@ TEST_F(GPSUtilsSettings, NoFileGivesDefaultsAndWritesNothing)
     EXPECT_FALSE(std::filesystem::exists(directory / "config"));
 }
 
-TEST_F(GPSUtilsSettings, ChangesGoToTheUserCopyAndReachTheNextRun)
-{
+TEST_F(GPSUtilsSettings, ChangesGoToTheUserCopyAndReachTheNextRun) {
     const auto shippedContents = plistDictionary(
         "<key>UnitType</key><integer>0</integer><key>Volume</key><real>0.6</real>"
         "<key>Map</key><dict><key>Layers</key><array><string>hybrid</string></array></dict>");
@@ -104,12 +115,16 @@ TEST_F(GPSUtilsSettings, ChangesGoToTheUserCopyAndReachTheNextRun)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(user.parent_path()), {}), 1);
 }
 
-TEST_F(GPSUtilsSettings, UnreadableUserCopyIsNeverOverwritten)
-{
-    const struct { const char* name; void (*make)(const std::filesystem::path&); } cases[] = {
+TEST_F(GPSUtilsSettings, UnreadableUserCopyIsNeverOverwritten) {
+    const struct {
+        const char* name;
+        void (*make)(const std::filesystem::path&);
+    } cases[] = {
         {"garbage", [](const auto& f) { writeFile(f, std::string("\x00\xff<dict>\x01garbage", 16)); }},
-        {"array", [](const auto& f) { writeFile(f, "<plist version=\"1.0\"><array><integer>1</integer></array></plist>"); }},
-        {"truncated", [](const auto& f) { writeFile(f, plistDictionary("<key>UnitType</key><integer>1</integer>").substr(0, 80)); }},
+        {"array",
+         [](const auto& f) { writeFile(f, "<plist version=\"1.0\"><array><integer>1</integer></array></plist>"); }},
+        {"truncated",
+         [](const auto& f) { writeFile(f, plistDictionary("<key>UnitType</key><integer>1</integer>").substr(0, 80)); }},
         {"empty", [](const auto& f) { writeFile(f, ""); }},
         {"folder", [](const auto& f) { std::filesystem::create_directories(f); }},
         {"dangling link", [](const auto& f) { std::filesystem::create_symlink("nowhere.plist", f); }},
@@ -134,8 +149,7 @@ TEST_F(GPSUtilsSettings, UnreadableUserCopyIsNeverOverwritten)
     }
 }
 
-TEST_F(GPSUtilsSettings, LinkedUserCopyStaysALink)
-{
+TEST_F(GPSUtilsSettings, LinkedUserCopyStaysALink) {
     const auto target = directory / "dotfiles" / "Env.plist";
     writeFile(target, plistDictionary("<key>UnitType</key><integer>0</integer>"));
     std::filesystem::create_directories(user.parent_path());
@@ -145,14 +159,13 @@ TEST_F(GPSUtilsSettings, LinkedUserCopyStaysALink)
     EXPECT_EQ(GPSUtils({.userFile = target, .shippedFile = {}}).unitType(), 1u);
 }
 
-TEST_F(GPSUtilsSettings, FailedWriteKeepsTheValueForTheRun)
-{
+TEST_F(GPSUtilsSettings, FailedWriteKeepsTheValueForTheRun) {
     writeFile(shipped, plistDictionary("<key>UnitType</key><integer>0</integer>"));
-    writeFile(directory / "config", ""); // a plain file where the user's folder should go
+    writeFile(directory / "config", "");  // a plain file where the user's folder should go
     GPSUtils utils(location());
     utils.setUnitType(1);
     EXPECT_EQ(utils.unitType(), 1u);
     EXPECT_EQ(GPSUtils({.userFile = {}, .shippedFile = shipped}).unitType(), 0u);
 }
 
-} // namespace
+}  // namespace

@@ -7,14 +7,14 @@
 
 namespace {
 
-void setOrClear(const char* name, const char* value)
-{
-    value ? ::setenv(name, value, 1) : ::unsetenv(name);
-}
+void setOrClear(const char* name, const char* value) { value ? ::setenv(name, value, 1) : ::unsetenv(name); }
 
-TEST(SettingsLocation, UserCopyFollowsTheXdgRules)
-{
-    const struct { const char* xdgConfigHome; const char* home; std::optional<std::filesystem::path> userFile; } cases[] = {
+TEST(SettingsLocation, UserCopyFollowsTheXdgRules) {
+    const struct {
+        const char* xdgConfigHome;
+        const char* home;
+        std::optional<std::filesystem::path> userFile;
+    } cases[] = {
         {"/xdg", "/home/driver", "/xdg/dashtrack/Env.plist"},
         {nullptr, "/home/driver", "/home/driver/.config/dashtrack/Env.plist"},
         {"", "/home/driver", "/home/driver/.config/dashtrack/Env.plist"},
@@ -32,10 +32,10 @@ TEST(SettingsLocation, UserCopyFollowsTheXdgRules)
     setOrClear("HOME", home.empty() ? nullptr : home.c_str());
 }
 
-TEST(SettingsLocation, ShippedFileComesFromTheBuildTreeWhenNotInstalled)
-{
+TEST(SettingsLocation, ShippedFileComesFromTheBuildTreeWhenNotInstalled) {
     EXPECT_EQ(resourceDirectory(), std::filesystem::path(DASHTRACK_RESOURCE_BUILD_DIR));
-    EXPECT_EQ(SettingsLocation::standard().shippedFile, std::filesystem::path(DASHTRACK_RESOURCE_BUILD_DIR) / "Env.plist");
+    EXPECT_EQ(SettingsLocation::standard().shippedFile,
+              std::filesystem::path(DASHTRACK_RESOURCE_BUILD_DIR) / "Env.plist");
 }
 
-} // namespace
+}  // namespace

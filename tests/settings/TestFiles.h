@@ -9,13 +9,11 @@
 
 class TemporaryDirectory {
 public:
-    TemporaryDirectory()
-    {
+    TemporaryDirectory() {
         std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-settings-XXXXXX").string();
         path_ = ::mkdtemp(pattern.data());
     }
-    ~TemporaryDirectory()
-    {
+    ~TemporaryDirectory() {
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
     }
@@ -29,24 +27,20 @@ private:
     std::filesystem::path path_;
 };
 
-inline void writeFile(const std::filesystem::path& path, const std::string& contents)
-{
+inline void writeFile(const std::filesystem::path& path, const std::string& contents) {
     std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << contents;
 }
 
 // Empty for anything but a regular file.
-inline std::string readFile(const std::filesystem::path& path)
-{
-    if (!std::filesystem::is_regular_file(path))
-        return {};
+inline std::string readFile(const std::filesystem::path& path) {
+    if (!std::filesystem::is_regular_file(path)) return {};
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 // An XML property list whose root dictionary holds `entries`.
-inline std::string plistDictionary(const std::string& entries)
-{
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n" + entries
-        + "</dict>\n</plist>\n";
+inline std::string plistDictionary(const std::string& entries) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict>\n" + entries +
+           "</dict>\n</plist>\n";
 }

@@ -10,12 +10,11 @@ namespace {
 
 const std::filesystem::path media = SETTINGS_TEST_MEDIA_DIR;
 
-TEST(ValidationJob, GivesTheAnswerOfValidURLsWithProgressUpToTotal)
-{
+TEST(ValidationJob, GivesTheAnswerOfValidURLsWithProgressUpToTotal) {
     const GPSUtils utils({.userFile = {}, .shippedFile = {}});
-    const std::vector<std::filesystem::path> files{media / "video.mp4", media / "text.mp4", media / "video.avi",
+    const std::vector<std::filesystem::path> files{media / "video.mp4",   media / "text.mp4",  media / "video.avi",
                                                    media / "missing.mp4", media / "video.mp4", media / "cover.m4a"};
-    std::vector<std::pair<std::size_t, std::size_t>> progress; // only the worker touches it until the end
+    std::vector<std::pair<std::size_t, std::size_t>> progress;  // only the worker touches it until the end
     std::vector<std::filesystem::path> completed;
     ValidationJob job(
         utils.sharedVideoTrackProbe(), files,
@@ -27,14 +26,12 @@ TEST(ValidationJob, GivesTheAnswerOfValidURLsWithProgressUpToTotal)
     EXPECT_EQ(*result, utils.validURLs(files));
     EXPECT_EQ(completed, *result);
     ASSERT_EQ(progress.size(), files.size());
-    for (std::size_t i = 0; i < progress.size(); ++i)
-        EXPECT_EQ(progress[i], std::make_pair(i + 1, files.size()));
+    for (std::size_t i = 0; i < progress.size(); ++i) EXPECT_EQ(progress[i], std::make_pair(i + 1, files.size()));
 }
 
 // Says yes to everything, but holds the second file until the test lets it go.
 struct GatedProbe : VideoTrackProbe {
-    bool hasVideoTrack(const std::filesystem::path&) const override
-    {
+    bool hasVideoTrack(const std::filesystem::path&) const override {
         if (++calls == 2) {
             reachedSecond.set_value();
             release.get_future().wait();
@@ -45,12 +42,12 @@ struct GatedProbe : VideoTrackProbe {
     mutable std::promise<void> reachedSecond, release;
 };
 
-TEST(ValidationJob, CancelStopsBeforeTheNextFile)
-{
+TEST(ValidationJob, CancelStopsBeforeTheNextFile) {
     const auto probe = std::make_shared<GatedProbe>();
     auto reached = probe->reachedSecond.get_future();
     bool completed = false;
-    ValidationJob job(probe, std::vector<std::filesystem::path>(100, "clip.mp4"), {}, [&](const auto&) { completed = true; });
+    ValidationJob job(probe, std::vector<std::filesystem::path>(100, "clip.mp4"), {},
+                      [&](const auto&) { completed = true; });
 
     reached.wait();
     job.cancel();
@@ -60,4 +57,4 @@ TEST(ValidationJob, CancelStopsBeforeTheNextFile)
     EXPECT_FALSE(completed);
 }
 
-} // namespace
+}  // namespace

@@ -20,7 +20,8 @@ TEST(SamplegenProgram, RefusesWhatItCannotDoWithOneLineAndAStatus) {
     const TempDir dir;
     const std::string out = quoted((dir / "out.mov").string());
     const std::string badRoute = (dir / "bad.csv").string();
-    std::ofstream(badRoute) << "time,latitude,longitude,speed\n2026-11-15T08:15:00,48.5,2.25,20\n2026-11-15T08:15:01,91,2.25,20\n";
+    std::ofstream(badRoute)
+        << "time,latitude,longitude,speed\n2026-11-15T08:15:00,48.5,2.25,20\n2026-11-15T08:15:01,91,2.25,20\n";
 
     struct Case {
         std::string arguments;

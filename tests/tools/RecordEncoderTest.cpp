@@ -16,12 +16,9 @@ struct Place {
 
 // Every quadrant, the axes, the speed limits of the forms.
 constexpr Place kPlaces[] = {
-    {"Paris", 48.869313, 2.309416, 28.0},
-    {"Rio", -22.951916, -43.210487, 55.5},
-    {"Kowloon", 22.298389, 114.172039, 0.0},
-    {"Anchorage", 61.216667, -149.9, 199.9},
-    {"NullIsland", 0.0, 0.0, 10.0},
-    {"Sydney", -33.8568, 151.2153, 61.25},
+    {"Paris", 48.869313, 2.309416, 28.0},    {"Rio", -22.951916, -43.210487, 55.5},
+    {"Kowloon", 22.298389, 114.172039, 0.0}, {"Anchorage", 61.216667, -149.9, 199.9},
+    {"NullIsland", 0.0, 0.0, 10.0},          {"Sydney", -33.8568, 151.2153, 61.25},
 };
 
 struct FormCase {
@@ -69,8 +66,9 @@ TEST(RecordEncoder, ThePlayerReadsBackTheRouteInEveryForm) {
             const int hours = form.form == GPSRecordForm::MP4 ? int(std::trunc(place.longitude)) / 15 : 0;
             const CivilTime shown = fromClockSeconds(toClockSeconds(kClock) + hours * 3600);
             const RMCINFO& f = data.data().rmcinfo;
-            EXPECT_EQ(CivilTime({int(f.Year) + 2000, int(f.Month), int(f.Day), int(f.Hour), int(f.Minute), int(f.Second)}),
-                      shown);
+            EXPECT_EQ(
+                CivilTime({int(f.Year) + 2000, int(f.Month), int(f.Day), int(f.Hour), int(f.Minute), int(f.Second)}),
+                shown);
         }
     }
 }
@@ -81,7 +79,8 @@ TEST(RecordEncoder, YearAndSignsAreWrittenAsEachFormExpects) {
         GPSRecordForm form;
         uint32_t year;
     };
-    for (const Case c : {Case{GPSRecordForm::MP4, 2026}, Case{GPSRecordForm::Scaled, 26}, Case{GPSRecordForm::FixedPoint, 2026}}) {
+    for (const Case c :
+         {Case{GPSRecordForm::MP4, 2026}, Case{GPSRecordForm::Scaled, 26}, Case{GPSRecordForm::FixedPoint, 2026}}) {
         SCOPED_TRACE(formName(c.form));
         const RMCINFO f = makeRawRecord(south, c.form).rmcinfo;
         EXPECT_EQ(f.Year, c.year);

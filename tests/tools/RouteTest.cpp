@@ -18,11 +18,12 @@ int64_t clock(int hour, int minute, int second) { return toClockSeconds({2026, 1
 }  // namespace
 
 TEST(Route, ReadsRowsSkippingCommentsHeaderAndCarriageReturns) {
-    const Route route = parse("# a drive\r\n"
-                              "time,latitude,longitude,speed\r\n"
-                              "\r\n"
-                              "2026-11-15T08:15:00,48.5,2.25,20\r\n"
-                              "2026-11-15 08:15:04,-48.5,-2.25,0\r\n");
+    const Route route = parse(
+        "# a drive\r\n"
+        "time,latitude,longitude,speed\r\n"
+        "\r\n"
+        "2026-11-15T08:15:00,48.5,2.25,20\r\n"
+        "2026-11-15 08:15:04,-48.5,-2.25,0\r\n");
     ASSERT_EQ(route.points().size(), 2u);
     EXPECT_EQ(route.startTime(), clock(8, 15, 0));
     EXPECT_EQ(route.endTime(), clock(8, 15, 4));
@@ -31,8 +32,9 @@ TEST(Route, ReadsRowsSkippingCommentsHeaderAndCarriageReturns) {
 }
 
 TEST(Route, InterpolatesBetweenPointsAndHoldsStillOutsideThem) {
-    const Route route = parse("2026-11-15T08:15:00,10.0,20.0,30\n"
-                              "2026-11-15T08:15:04,10.4,20.8,10\n");
+    const Route route = parse(
+        "2026-11-15T08:15:00,10.0,20.0,30\n"
+        "2026-11-15T08:15:04,10.4,20.8,10\n");
     struct Case {
         double offset;
         double latitude, longitude, speed;
@@ -56,8 +58,8 @@ TEST(Route, InterpolatesBetweenPointsAndHoldsStillOutsideThem) {
 
 TEST(Route, HeadingFollowsTheRoadAndAStandingCarKeepsIt) {
     // East, then standing, then north. Before it first moves the car already faces east.
-    const Route route({{0, 0.0, 0.0, 0}, {10, 0.0, 0.0, 0}, {20, 0.0, 0.001, 20}, {30, 0.0, 0.001, 0},
-                       {40, 0.001, 0.001, 20}});
+    const Route route(
+        {{0, 0.0, 0.0, 0}, {10, 0.0, 0.0, 0}, {20, 0.0, 0.001, 20}, {30, 0.0, 0.001, 0}, {40, 0.001, 0.001, 20}});
     const double expected[][2] = {{5, 90}, {15, 90}, {25, 90}, {35, 0}};
     for (const auto& [at, heading] : expected) EXPECT_NEAR(route.at(at).heading, heading, 1e-6) << "at " << at;
 }

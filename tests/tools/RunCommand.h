@@ -1,10 +1,10 @@
 #pragma once
 // Runs a program through the shell and collects its exit status and what it printed.
 
+#include <sys/wait.h>
 #include <array>
 #include <cstdio>
 #include <string>
-#include <sys/wait.h>
 
 struct CommandResult {
     int status = -1;  // exit status, -1 when it did not exit normally
@@ -17,7 +17,8 @@ inline CommandResult runCommand(const std::string& command) {
     FILE* pipe = popen(command.c_str(), "r");
     if (pipe == nullptr) return result;
     std::array<char, 4096> buffer;
-    for (std::size_t n; (n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) result.output.append(buffer.data(), n);
+    for (std::size_t n; (n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;)
+        result.output.append(buffer.data(), n);
     const int status = pclose(pipe);
     if (WIFEXITED(status)) result.status = WEXITSTATUS(status);
     return result;

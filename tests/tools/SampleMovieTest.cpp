@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
 #include <algorithm>
 #include <cmath>
-#include <sys/stat.h>
 
 namespace {
 
@@ -137,16 +137,16 @@ TEST_P(SampleMovie, PlaysCleanlyAndTheLoaderReadsBackTheRoute) {
     EXPECT_NEAR(track.maxSpeed, 31.5, tolerance.speed);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    LayoutsAndForms, SampleMovie,
-    testing::Values(MovieCase{GPSBlockLayout::Index, GPSRecordForm::MP4, GPSLayout::Index},
-                    MovieCase{GPSBlockLayout::Index, GPSRecordForm::Scaled, GPSLayout::Index},
-                    MovieCase{GPSBlockLayout::Index, GPSRecordForm::FixedPoint, GPSLayout::Index},
-                    MovieCase{GPSBlockLayout::Chunk, GPSRecordForm::Scaled, GPSLayout::SoundChunk},
-                    MovieCase{GPSBlockLayout::Chunk, GPSRecordForm::FixedPoint, GPSLayout::SoundChunk},
-                    MovieCase{GPSBlockLayout::None, GPSRecordForm::MP4, GPSLayout::None},
-                    MovieCase{GPSBlockLayout::None, GPSRecordForm::Scaled, GPSLayout::SoundChunk}),
-    caseName);
+INSTANTIATE_TEST_SUITE_P(LayoutsAndForms, SampleMovie,
+                         testing::Values(MovieCase{GPSBlockLayout::Index, GPSRecordForm::MP4, GPSLayout::Index},
+                                         MovieCase{GPSBlockLayout::Index, GPSRecordForm::Scaled, GPSLayout::Index},
+                                         MovieCase{GPSBlockLayout::Index, GPSRecordForm::FixedPoint, GPSLayout::Index},
+                                         MovieCase{GPSBlockLayout::Chunk, GPSRecordForm::Scaled, GPSLayout::SoundChunk},
+                                         MovieCase{GPSBlockLayout::Chunk, GPSRecordForm::FixedPoint,
+                                                   GPSLayout::SoundChunk},
+                                         MovieCase{GPSBlockLayout::None, GPSRecordForm::MP4, GPSLayout::None},
+                                         MovieCase{GPSBlockLayout::None, GPSRecordForm::Scaled, GPSLayout::SoundChunk}),
+                         caseName);
 
 TEST(SampleMovieChunks, EachBlockLiesOneRoundedSecondOfSoundAfterItsChunk) {
     struct Case {
@@ -188,7 +188,8 @@ TEST(SampleMovieTimes, FileTimeAndMovieHeaderAreTheStartReadAsLocalTime) {
         int64_t utcOffset;
     };
     const Route route = buenosAires();
-    for (const Case c : {Case{"UTC", 0}, Case{"Asia/Tokyo", 9 * 3600}, Case{"America/Argentina/Buenos_Aires", -3 * 3600}}) {
+    for (const Case c :
+         {Case{"UTC", 0}, Case{"Asia/Tokyo", 9 * 3600}, Case{"America/Argentina/Buenos_Aires", -3 * 3600}}) {
         SCOPED_TRACE(c.zone);
         const TimeZoneGuard zone(c.zone);
         const TempDir dir;

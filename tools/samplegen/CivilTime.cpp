@@ -33,7 +33,7 @@ CivilTime fromClockSeconds(int64_t seconds) {
     }
     const year_month_day date{sys_days{std::chrono::days{days}}};
     return {int(date.year()), int(unsigned(date.month())), int(unsigned(date.day())),
-            int(rest / 3600), int(rest / 60 % 60), int(rest % 60)};
+            int(rest / 3600), int(rest / 60 % 60),         int(rest % 60)};
 }
 
 std::optional<CivilTime> parseIsoDateTime(std::string_view text) {

@@ -40,10 +40,13 @@ uint32_t nextRandom(uint32_t& state) {
 }  // namespace
 
 DashcamScene::DashcamScene(int width, int height)
-    : width_(width), height_(height), horizon_(height * 46 / 100),
+    : width_(width),
+      height_(height),
+      horizon_(height * 46 / 100),
       focal_(width / 2.0 / std::tan(50.0 * std::numbers::pi / 180.0)),  // 100 degrees across
       bonnetTop_(std::size_t(width)),
-      background_(width, height), digits_(std::max(10, height / 24)) {
+      background_(width, height),
+      digits_(std::max(10, height / 24)) {
     for (int x = 0; x < width; ++x) {
         const double across = (x - width / 2.0) / (width / 2.0);
         bonnetTop_[std::size_t(x)] = int(height * (0.90 + 0.07 * across * across));
@@ -56,7 +59,8 @@ double DashcamScene::screenRow(double z) const { return horizon_ + focal_ * kCam
 
 void DashcamScene::paintBackground() {
     YuvCanvas canvas = background_.canvas();
-    for (int y = 0; y < horizon_; ++y) canvas.fillRect(0, y, width_, y + 1, mix(kSkyTop, kSkyHorizon, double(y) / horizon_));
+    for (int y = 0; y < horizon_; ++y)
+        canvas.fillRect(0, y, width_, y + 1, mix(kSkyTop, kSkyHorizon, double(y) / horizon_));
 
     uint32_t seed = 2026;
     const int unit = std::max(2, width_ / 64);
@@ -64,7 +68,8 @@ void DashcamScene::paintBackground() {
         const int blockWidth = unit * int(2 + nextRandom(seed) % 5);
         const int blockHeight = int(height_ * (0.02 + 0.05 * double(nextRandom(seed) % 100) / 100.0));
         const uint8_t shade = uint8_t(120 + nextRandom(seed) % 40);
-        canvas.fillRect(x, horizon_ - blockHeight, x + blockWidth, horizon_, Yuv::fromRgb(shade, shade + 5, shade + 15));
+        canvas.fillRect(x, horizon_ - blockHeight, x + blockWidth, horizon_,
+                        Yuv::fromRgb(shade, shade + 5, shade + 15));
         x += blockWidth;
     }
 
@@ -97,7 +102,8 @@ void DashcamScene::paintLaneMarkings(YuvCanvas& canvas, double travelled) const 
 void DashcamScene::paintLampPosts(YuvCanvas& canvas, double travelled) const {
     // Posts stand at every multiple of the spacing along the road; draw the far ones first.
     const double first = std::ceil((travelled + kNearest) / kLampSpacing) * kLampSpacing;
-    for (double at = std::floor((travelled + kFarthestLamp) / kLampSpacing) * kLampSpacing; at >= first; at -= kLampSpacing) {
+    for (double at = std::floor((travelled + kFarthestLamp) / kLampSpacing) * kLampSpacing; at >= first;
+         at -= kLampSpacing) {
         const double z = at - travelled;
         const int base = int(std::lround(screenRow(z)));
         const int top = int(std::lround(base - focal_ * kLampHeight / z));
@@ -108,8 +114,10 @@ void DashcamScene::paintLampPosts(YuvCanvas& canvas, double travelled) const {
             // The arm reaches over the road.
             const int arm = std::max(1, (x1 - x0) / 2);
             const int reach = int(std::lround(focal_ * 1.6 / z));
-            if (side < 0) canvas.fillRect(x0, top, x1 + reach, top + arm, kLamp);
-            else canvas.fillRect(x0 - reach, top, x1, top + arm, kLamp);
+            if (side < 0)
+                canvas.fillRect(x0, top, x1 + reach, top + arm, kLamp);
+            else
+                canvas.fillRect(x0 - reach, top, x1, top + arm, kLamp);
         }
     }
 }

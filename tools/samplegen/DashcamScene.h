@@ -14,7 +14,7 @@ struct SceneMoment {
     double travelledMetres = 0;  // moves the road; its rate is the car's speed
     std::string clock;           // "YYYY-MM-DD HH:MM:SS" as the camera stamps it
     double speed = 0;
-    int64_t frameNumber = 0;     // tells neighbouring frames apart in a snapshot
+    int64_t frameNumber = 0;  // tells neighbouring frames apart in a snapshot
 };
 
 class DashcamScene {
@@ -36,7 +36,7 @@ private:
     int width_;
     int height_;
     int horizon_;
-    double focal_;         // pixels
+    double focal_;                // pixels
     std::vector<int> bonnetTop_;  // first row of the bonnet, per column
     Yuv420Image background_;
     SevenSegment digits_;

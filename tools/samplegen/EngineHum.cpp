@@ -8,8 +8,8 @@ namespace {
 
 constexpr double kIdleHertz = 32.0;
 constexpr double kHertzPerSpeed = 1.6;
-constexpr double kHumLevel = 900.0;     // of 32767: about -31 dBFS, quiet as a cabin
-constexpr double kRoadLevel = 40.0;     // per unit of speed
+constexpr double kHumLevel = 900.0;  // of 32767: about -31 dBFS, quiet as a cabin
+constexpr double kRoadLevel = 40.0;  // per unit of speed
 constexpr double kHarmonics[] = {1.0, 0.55, 0.3, 0.15};
 
 }  // namespace

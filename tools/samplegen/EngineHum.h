@@ -16,7 +16,7 @@ public:
 private:
     int sampleRate_;
     int channels_;
-    double phase_ = 0;       // of the fundamental, in cycles
-    double noise_ = 0;       // low-passed noise state
+    double phase_ = 0;  // of the fundamental, in cycles
+    double noise_ = 0;  // low-passed noise state
     uint32_t random_ = 1;
 };

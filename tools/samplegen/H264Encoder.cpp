@@ -87,8 +87,8 @@ std::vector<EncodedFrame> H264Encoder::send(const AVFrame* frame) {
         const int result = avcodec_receive_packet(context_.get(), packet_.get());
         if (result == AVERROR(EAGAIN) || result == AVERROR_EOF) return frames;
         check(result, "encode");
-        frames.push_back({toLengthPrefixed({packet_->data, std::size_t(packet_->size)}),
-                          (packet_->flags & AV_PKT_FLAG_KEY) != 0});
+        frames.push_back(
+            {toLengthPrefixed({packet_->data, std::size_t(packet_->size)}), (packet_->flags & AV_PKT_FLAG_KEY) != 0});
         av_packet_unref(packet_.get());
     }
 }

@@ -11,9 +11,9 @@ constexpr uint16_t kUndeterminedLanguage = 0x55C4;  // "und", packed ISO 639-2
 
 struct TrackHeader {
     uint32_t id;
-    uint32_t duration;   // movie time scale
-    uint16_t volume;     // 8.8
-    uint16_t width;      // 0 for sound
+    uint32_t duration;  // movie time scale
+    uint16_t volume;    // 8.8
+    uint16_t width;     // 0 for sound
     uint16_t height;
 };
 
@@ -68,8 +68,10 @@ void writeMediaHeader(ByteWriter& out, const MovieDescription& movie, uint32_t t
 void writeHandler(ByteWriter& out, FileBrand brand, const char* handler) {
     out.fullBox("hdlr", 0, 0, [&] {
         // QuickTime names the component type here; ISO files leave it zero.
-        if (brand == FileBrand::QuickTime) out.fourcc("mhlr");
-        else out.u32(0);
+        if (brand == FileBrand::QuickTime)
+            out.fourcc("mhlr");
+        else
+            out.u32(0);
         out.fourcc(handler);
         out.zeros(12);
         out.u8(0);  // empty name: a zero-length Pascal string and an empty C string alike
@@ -101,8 +103,8 @@ void writeVideoSampleDescription(ByteWriter& out, FileBrand brand, const VideoTr
         out.u32(1);
         out.box("avc1", [&] {
             out.zeros(6);
-            out.u16(1);      // data reference index
-            out.zeros(16);   // version, revision, vendor, qualities
+            out.u16(1);     // data reference index
+            out.zeros(16);  // version, revision, vendor, qualities
             out.u16(video.width);
             out.u16(video.height);
             out.u32(0x00480000);  // 72 dpi
@@ -144,7 +146,7 @@ void writeSoundSampleDescription(ByteWriter& out, const SoundTrack& sound) {
         out.u32(1);
         out.box("sowt", [&] {
             out.zeros(6);
-            out.u16(1);  // data reference index
+            out.u16(1);    // data reference index
             out.zeros(8);  // version 0, revision, vendor
             out.u16(sound.channels);
             out.u16(16);  // bits per sample

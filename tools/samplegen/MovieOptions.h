@@ -17,9 +17,9 @@ struct MovieOptions {
     int fps = 30;
     int channels = 1;
     int sampleRate = 22050;
-    int64_t fromSecond = 0;                // where in the route the movie starts
-    std::optional<int64_t> seconds;        // default: to the end of the route
-    bool setFileTime = true;               // file modification time = the movie's start
+    int64_t fromSecond = 0;          // where in the route the movie starts
+    std::optional<int64_t> seconds;  // default: to the end of the route
+    bool setFileTime = true;         // file modification time = the movie's start
 };
 
 // Throws UsageError for combinations the writer cannot make.

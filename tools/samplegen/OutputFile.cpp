@@ -2,12 +2,12 @@
 
 #include "SampleGenError.h"
 
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
-#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
+#include <cstring>
+#include <string>
 #include <vector>
 
 namespace {

@@ -24,7 +24,7 @@ void encodeScaledForm(RMCINFO& f, const RouteSample& s) {
     f.Latitude = float(std::fabs(s.latitude) * 60.0 / 0.6014019);
     f.Longitude = float(std::fabs(s.longitude) * 60.0 / 0.6000377);
     f.Speed = float(s.speed / 1.15078);  // knots
-    f.Year %= 100;                         // a two-digit year is what tells this form apart
+    f.Year %= 100;                       // a two-digit year is what tells this form apart
 }
 
 void encodeFixedPointForm(RMCINFO& f, const RouteSample& s) {

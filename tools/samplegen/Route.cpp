@@ -130,7 +130,8 @@ RouteSample Route::at(double time) const {
     const auto clock = int64_t(std::floor(time));
     if (after == points_.begin() || after == points_.end()) {
         const auto& p = after == points_.begin() ? points_.front() : points_.back();
-        return {clock, p.latitude, p.longitude, p.speed, after == points_.begin() ? headings_.front() : headings_.back()};
+        return {clock, p.latitude, p.longitude, p.speed,
+                after == points_.begin() ? headings_.front() : headings_.back()};
     }
     const auto& a = *(after - 1);
     const auto& b = *after;

@@ -26,13 +26,12 @@ constexpr uint32_t kBytesPerSample = 2;
 std::string clockStamp(int64_t clock) {
     const CivilTime t = fromClockSeconds(clock);
     char text[32];
-    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", t.year, t.month, t.day, t.hour, t.minute, t.second);
+    std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", t.year, t.month, t.day, t.hour, t.minute,
+                  t.second);
     return text;
 }
 
-YuvCanvas canvasOf(AVFrame& frame) {
-    return YuvCanvas(frame.width, frame.height, frame.data, frame.linesize);
-}
+YuvCanvas canvasOf(AVFrame& frame) { return YuvCanvas(frame.width, frame.height, frame.data, frame.linesize); }
 
 // Streams the media data: frames come out of the encoder a few at a time, and each whole second
 // goes to the file, with its sound and GPS block, as soon as all its frames are there.
@@ -40,9 +39,14 @@ class MovieWriter {
 public:
     MovieWriter(const Route& route, const MovieOptions& options, const MoviePlan& plan, int64_t startInstant,
                 OutputFile& out)
-        : route_(route), options_(options), plan_(plan), startInstant_(startInstant), out_(out),
+        : route_(route),
+          options_(options),
+          plan_(plan),
+          startInstant_(startInstant),
+          out_(out),
           records_(recordedSamples(route, plan)),
-          hum_(options.sampleRate, options.channels), writeSecond_(secondWriterFor(options.layout)) {
+          hum_(options.sampleRate, options.channels),
+          writeSecond_(secondWriterFor(options.layout)) {
         state_.chunkGPSOffset = chunkGPSOffset(uint32_t(options.channels), uint32_t(options.sampleRate), 16);
         state_.video = &movie_.video.samples;
         state_.sound = &movie_.sound.samples;
@@ -57,7 +61,8 @@ public:
         const uint64_t mdatStart = out_.write(std::vector<uint8_t>{0, 0, 0, 0, 'm', 'd', 'a', 't'});
         const std::vector<uint8_t> avcConfig = writeMediaData();
         const uint64_t mdatSize = out_.position() - mdatStart;
-        if (mdatSize > std::numeric_limits<uint32_t>::max()) throw SampleGenError("movie too large: media data past 4 GiB");
+        if (mdatSize > std::numeric_limits<uint32_t>::max())
+            throw SampleGenError("movie too large: media data past 4 GiB");
         out_.patchU32BE(mdatStart, uint32_t(mdatSize));
         out_.write(movieBox(describeMovie(brand, avcConfig)));
     }

@@ -7,7 +7,7 @@
 #include <vector>
 
 struct SampleTable {
-    uint32_t sampleDelta = 1;        // every sample lasts this long, in the track's time scale
+    uint32_t sampleDelta = 1;  // every sample lasts this long, in the track's time scale
     uint32_t sampleCount = 0;
     uint32_t uniformSampleSize = 0;  // bytes of every sample, or 0 when sampleSizes lists them
     std::vector<uint32_t> sampleSizes;

@@ -29,8 +29,10 @@ int SevenSegment::textWidth(std::string_view text) const {
 void SevenSegment::draw(YuvCanvas& canvas, int x, int y, std::string_view text, Yuv colour) const {
     const int t = thickness_;
     for (char c : text) {
-        if (c >= '0' && c <= '9') drawDigit(canvas, x, y, kDigitSegments[c - '0'], colour);
-        else if (c == '-') drawDigit(canvas, x, y, kMinusSegments, colour);
+        if (c >= '0' && c <= '9')
+            drawDigit(canvas, x, y, kDigitSegments[c - '0'], colour);
+        else if (c == '-')
+            drawDigit(canvas, x, y, kMinusSegments, colour);
         else if (c == ':') {
             canvas.fillRect(x, y + height_ / 4, x + t, y + height_ / 4 + t, colour);
             canvas.fillRect(x, y + height_ * 3 / 4 - t, x + t, y + height_ * 3 / 4, colour);
@@ -47,12 +49,12 @@ void SevenSegment::drawDigit(YuvCanvas& canvas, int x, int y, unsigned segments,
         int x0, y0, x1, y1;
     };
     const Rect rects[7] = {
-        {x + t, y, x + w - t, y + t},                  // a
-        {x + w - t, y + t, x + w, mid},                // b
-        {x + w - t, mid, x + w, y + h - t},            // c
-        {x + t, y + h - t, x + w - t, y + h},          // d
-        {x, mid, x + t, y + h - t},                    // e
-        {x, y + t, x + t, mid},                        // f
+        {x + t, y, x + w - t, y + t},                      // a
+        {x + w - t, y + t, x + w, mid},                    // b
+        {x + w - t, mid, x + w, y + h - t},                // c
+        {x + t, y + h - t, x + w - t, y + h},              // d
+        {x, mid, x + t, y + h - t},                        // e
+        {x, y + t, x + t, mid},                            // f
         {x + t, mid - t / 2, x + w - t, mid + t - t / 2},  // g
     };
     for (unsigned i = 0; i < 7; ++i)

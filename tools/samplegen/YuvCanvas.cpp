@@ -14,7 +14,9 @@ Yuv Yuv::fromRgb(int r, int g, int b) {
 }
 
 YuvCanvas::YuvCanvas(int width, int height, uint8_t* const planes[3], const int strides[3])
-    : width_(width), height_(height), planes_{planes[0], planes[1], planes[2]},
+    : width_(width),
+      height_(height),
+      planes_{planes[0], planes[1], planes[2]},
       strides_{strides[0], strides[1], strides[2]} {}
 
 void YuvCanvas::fillRect(int x0, int y0, int x1, int y1, Yuv colour) {
@@ -23,7 +25,8 @@ void YuvCanvas::fillRect(int x0, int y0, int x1, int y1, Yuv colour) {
     x1 = std::min(x1, width_);
     y1 = std::min(y1, height_);
     if (x0 >= x1 || y0 >= y1) return;
-    for (int y = y0; y < y1; ++y) std::memset(planes_[0] + std::ptrdiff_t(y) * strides_[0] + x0, colour.y, std::size_t(x1 - x0));
+    for (int y = y0; y < y1; ++y)
+        std::memset(planes_[0] + std::ptrdiff_t(y) * strides_[0] + x0, colour.y, std::size_t(x1 - x0));
     const int cx0 = x0 / 2, cx1 = (x1 + 1) / 2;
     for (int cy = y0 / 2; cy < (y1 + 1) / 2; ++cy) {
         std::memset(planes_[1] + std::ptrdiff_t(cy) * strides_[1] + cx0, colour.u, std::size_t(cx1 - cx0));
@@ -42,8 +45,11 @@ void YuvCanvas::copyPlanes(const uint8_t* const planes[3], const int strides[3])
 }
 
 Yuv420Image::Yuv420Image(int width, int height)
-    : width_(width), height_(height), luma_(std::size_t(width) * std::size_t(height)),
-      cb_(std::size_t((width + 1) / 2) * std::size_t((height + 1) / 2)), cr_(cb_.size()) {}
+    : width_(width),
+      height_(height),
+      luma_(std::size_t(width) * std::size_t(height)),
+      cb_(std::size_t((width + 1) / 2) * std::size_t((height + 1) / 2)),
+      cr_(cb_.size()) {}
 
 YuvCanvas Yuv420Image::canvas() {
     uint8_t* const planes[3] = {luma_.data(), cb_.data(), cr_.data()};

@@ -18,11 +18,9 @@ void* getProcAddress(void*, const char* name) {
 
 }  // namespace
 
-GLVideoSurface::GLVideoSurface(QWidget* parent)
-    : QOpenGLWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
+GLVideoSurface::GLVideoSurface(QWidget* parent) : QOpenGLWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
     connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
-        if (binding_.context())
-            mpv_render_context_report_swap(binding_.context());
+        if (binding_.context()) mpv_render_context_report_swap(binding_.context());
     });
 }
 
@@ -34,8 +32,7 @@ GLVideoSurface::~GLVideoSurface() {
 
 void GLVideoSurface::setPlayer(MediaPlayer* player) {
     MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
-    if (source == source_)
-        return;
+    if (source == source_) return;
     detach();
     source_ = source;
     attach();
@@ -51,8 +48,7 @@ void GLVideoSurface::initializeGL() {
 }
 
 void GLVideoSurface::attach() {
-    if (!source_ || !isValid())
-        return;
+    if (!source_ || !isValid()) return;
     makeCurrent();
     mpv_opengl_init_params glInit{&getProcAddress, nullptr};
     mpv_render_param params[]{
@@ -66,8 +62,7 @@ void GLVideoSurface::attach() {
 
 void GLVideoSurface::detach() {
     newFrame_ = false;
-    if (!binding_.context())
-        return;
+    if (!binding_.context()) return;
     // mpv frees its GL objects, so its context must be current.
     makeCurrent();
     binding_.release();
@@ -78,8 +73,7 @@ void GLVideoSurface::onMpvUpdate() {
     makeCurrent();
     if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
         const bool newFrame = binding_.nextIsNewFrame();
-        if (newFrame && newFrame_)
-            qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
+        if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
         newFrame_ = newFrame_ || newFrame;
     }
     doneCurrent();
@@ -95,8 +89,8 @@ void GLVideoSurface::paintGL() {
         return;
     }
     const qreal ratio = devicePixelRatioF();
-    mpv_opengl_fbo fbo{static_cast<int>(defaultFramebufferObject()), qRound(width() * ratio),
-                       qRound(height() * ratio), 0};
+    mpv_opengl_fbo fbo{static_cast<int>(defaultFramebufferObject()), qRound(width() * ratio), qRound(height() * ratio),
+                       0};
     int flipY = 1;
     // Frames arrive when due (video-timing-offset=0): waiting here would only stall the GUI.
     int block = 0;

@@ -1,5 +1,6 @@
 #include "MovieProbe.h"
 
+#include "FFmpegHandles.h"
 #include "MpvLogging.h"
 
 extern "C" {
@@ -12,10 +13,7 @@ extern "C" {
 
 namespace {
 
-struct FormatContextCloser {
-    void operator()(AVFormatContext* context) const { avformat_close_input(&context); }
-};
-using FormatContext = std::unique_ptr<AVFormatContext, FormatContextCloser>;
+using FormatContext = FormatContextPtr;
 
 FormatContext openInput(const std::filesystem::path& file) {
     AVFormatContext* raw = nullptr;

@@ -51,8 +51,7 @@ struct CoreDestroyer {
 
 bool setOption(mpv_handle* handle, const char* name, const char* value) {
     const int error = mpv_set_option_string(handle, name, value);
-    if (error < 0)
-        qCWarning(lcMpv) << "option" << name << "=" << value << "rejected:" << mpv_error_string(error);
+    if (error < 0) qCWarning(lcMpv) << "option" << name << "=" << value << "rejected:" << mpv_error_string(error);
     return error >= 0;
 }
 
@@ -67,8 +66,7 @@ MpvCore createMpvCore() {
         qCWarning(lcMpv) << "mpv_create failed";
         return {};
     }
-    for (const auto& [name, value] : kOptions)
-        setOption(core.get(), name, value);
+    for (const auto& [name, value] : kOptions) setOption(core.get(), name, value);
     if (const char* audioOutput = std::getenv("DASHTRACK_AUDIO_OUTPUT"); audioOutput && *audioOutput)
         setOption(core.get(), "ao", audioOutput);
     if (const int error = mpv_initialize(core.get()); error < 0) {

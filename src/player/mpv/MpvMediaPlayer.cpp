@@ -21,14 +21,12 @@ bool flagOf(const mpv_event_property& property) {
 }
 
 std::optional<double> doubleOf(const mpv_event_property& property) {
-    if (property.format != MPV_FORMAT_DOUBLE)
-        return std::nullopt;
+    if (property.format != MPV_FORMAT_DOUBLE) return std::nullopt;
     return *static_cast<const double*>(property.data);
 }
 
 bool stringIs(const mpv_event_property& property, const char* text) {
-    return property.format == MPV_FORMAT_STRING &&
-           std::strcmp(*static_cast<char* const*>(property.data), text) == 0;
+    return property.format == MPV_FORMAT_STRING && std::strcmp(*static_cast<char* const*>(property.data), text) == 0;
 }
 
 struct ObservedProperty {
@@ -40,8 +38,7 @@ struct ObservedProperty {
 // Every property the player follows, by slot; a notification's reply id is its slot.
 constexpr std::array<ObservedProperty, MpvMediaPlayer::kObservedCount> kObserved{{
     {"pause", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.paused = flagOf(p); }},
-    {"core-idle", MPV_FORMAT_FLAG,
-     [](MpvPlaybackState& s, const mpv_event_property& p) { s.coreIdle = flagOf(p); }},
+    {"core-idle", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.coreIdle = flagOf(p); }},
     {"seeking", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.seeking = flagOf(p); }},
     {"eof-reached", MPV_FORMAT_FLAG,
      [](MpvPlaybackState& s, const mpv_event_property& p) { s.eofReached = flagOf(p); }},
@@ -52,8 +49,7 @@ constexpr std::array<ObservedProperty, MpvMediaPlayer::kObservedCount> kObserved
     // Unavailable while a file opens or a seek settles: the last position stands until a new one.
     {"time-pos", MPV_FORMAT_DOUBLE,
      [](MpvPlaybackState& s, const mpv_event_property& p) {
-         if (const auto seconds = doubleOf(p))
-             s.position = seconds;
+         if (const auto seconds = doubleOf(p)) s.position = seconds;
      }},
 }};
 
@@ -62,11 +58,13 @@ static_assert(std::string_view(kObserved[PlayDirection].name) == "play-dir");
 static_assert(std::string_view(kObserved[TimePos].name) == "time-pos");
 
 // Reply ids of our own requests, above the observed slots.
-constexpr uint64_t kWriteReply = 0x100;     // | slot: a property write
+constexpr uint64_t kWriteReply = 0x100;       // | slot: a property write
 constexpr uint64_t kUnobservedReply = 0x200;  // writes of properties the player does not follow
 constexpr uint64_t kSeekReply = 0x300;
 
-bool isSlotReply(uint64_t reply, uint64_t base) { return reply >= base && reply < base + MpvMediaPlayer::kObservedCount; }
+bool isSlotReply(uint64_t reply, uint64_t base) {
+    return reply >= base && reply < base + MpvMediaPlayer::kObservedCount;
+}
 
 std::string secondsText(double seconds) {
     char buffer[64];
@@ -78,12 +76,12 @@ std::string secondsText(double seconds) {
 
 MpvMediaPlayer::MpvMediaPlayer(MpvCore core, std::filesystem::path file, MovieInfo info, QElapsedTimer sinceRequested)
     : core_(std::move(core)), file_(std::move(file)), info_(info), sinceRequested_(sinceRequested) {
-    if (!sinceRequested_.isValid())
-        sinceRequested_.start();
+    if (!sinceRequested_.isValid()) sinceRequested_.start();
     for (std::size_t slot = 0; slot < kObserved.size(); ++slot)
         mpv_observe_property(core_.get(), slot, kObserved[slot].name, kObserved[slot].format);
     mpv_set_wakeup_callback(core_.get(), &MpvMediaPlayer::wakeUp, this);
-    QMetaObject::invokeMethod(this, [this] { load(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { load(); }, Qt::QueuedConnection);
 }
 
 MpvMediaPlayer::~MpvMediaPlayer() {
@@ -97,8 +95,7 @@ MpvMediaPlayer::~MpvMediaPlayer() {
 void MpvMediaPlayer::wakeUp(void* context) {
     // Called on one of mpv's threads: post the work to the GUI thread, nothing more.
     auto* self = static_cast<MpvMediaPlayer*>(context);
-    if (self->drainPosted_.exchange(true))
-        return;
+    if (self->drainPosted_.exchange(true)) return;
     QMetaObject::invokeMethod(
         self,
         [self] {
@@ -116,69 +113,66 @@ void MpvMediaPlayer::load() {
 void MpvMediaPlayer::drainEvents() {
     for (;;) {
         const mpv_event* event = mpv_wait_event(core_.get(), 0);
-        if (event->event_id == MPV_EVENT_NONE)
-            return;
+        if (event->event_id == MPV_EVENT_NONE) return;
         handleEvent(*event);
     }
 }
 
 void MpvMediaPlayer::handleEvent(const mpv_event& event) {
     switch (event.event_id) {
-    case MPV_EVENT_PROPERTY_CHANGE:
-        if (event.reply_userdata < kObserved.size())
-            applyProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
-        break;
-    case MPV_EVENT_SET_PROPERTY_REPLY:
-        if (isSlotReply(event.reply_userdata, kWriteReply))
-            writeDone(event.reply_userdata - kWriteReply, event.error);
-        else if (event.error < 0)
-            qCWarning(lcMpv) << "setting a property failed:" << mpv_error_string(event.error);
-        break;
-    case MPV_EVENT_COMMAND_REPLY:
-        if (event.error < 0) {
-            qCDebug(lcMpv) << "command failed:" << mpv_error_string(event.error);
-            if (event.reply_userdata == kSeekReply)
-                state_.seekInFlight = false;
+        case MPV_EVENT_PROPERTY_CHANGE:
+            if (event.reply_userdata < kObserved.size())
+                applyProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
+            break;
+        case MPV_EVENT_SET_PROPERTY_REPLY:
+            if (isSlotReply(event.reply_userdata, kWriteReply))
+                writeDone(event.reply_userdata - kWriteReply, event.error);
+            else if (event.error < 0)
+                qCWarning(lcMpv) << "setting a property failed:" << mpv_error_string(event.error);
+            break;
+        case MPV_EVENT_COMMAND_REPLY:
+            if (event.error < 0) {
+                qCDebug(lcMpv) << "command failed:" << mpv_error_string(event.error);
+                if (event.reply_userdata == kSeekReply) state_.seekInFlight = false;
+            }
+            break;
+        case MPV_EVENT_PLAYBACK_RESTART:
+            state_.seekInFlight = false;
+            break;
+        case MPV_EVENT_FILE_LOADED:
+            state_.loaded = true;
+            if (pendingSeek_) {
+                seekNow(*pendingSeek_);
+                pendingSeek_.reset();
+            }
+            break;
+        case MPV_EVENT_END_FILE: {
+            const auto* end = static_cast<const mpv_event_end_file*>(event.data);
+            if (end->reason == MPV_END_FILE_REASON_ERROR) {
+                qCWarning(lcMpv) << "cannot play" << file_.c_str() << ":" << mpv_error_string(end->error);
+                state_.failed = true;
+                state_.loaded = false;
+            }
+            break;
         }
-        break;
-    case MPV_EVENT_PLAYBACK_RESTART:
-        state_.seekInFlight = false;
-        break;
-    case MPV_EVENT_FILE_LOADED:
-        state_.loaded = true;
-        if (pendingSeek_) {
-            seekNow(*pendingSeek_);
-            pendingSeek_.reset();
+        case MPV_EVENT_LOG_MESSAGE: {
+            const auto* message = static_cast<const mpv_event_log_message*>(event.data);
+            const QString text = QString::fromUtf8(message->text).trimmed();
+            // mpv's warnings are mostly about odd but playable files; its errors are worth seeing.
+            if (message->log_level <= MPV_LOG_LEVEL_ERROR)
+                qCWarning(lcMpv).noquote() << message->prefix << text;
+            else
+                qCDebug(lcMpv).noquote() << message->prefix << text;
+            break;
         }
-        break;
-    case MPV_EVENT_END_FILE: {
-        const auto* end = static_cast<const mpv_event_end_file*>(event.data);
-        if (end->reason == MPV_END_FILE_REASON_ERROR) {
-            qCWarning(lcMpv) << "cannot play" << file_.c_str() << ":" << mpv_error_string(end->error);
-            state_.failed = true;
-            state_.loaded = false;
-        }
-        break;
-    }
-    case MPV_EVENT_LOG_MESSAGE: {
-        const auto* message = static_cast<const mpv_event_log_message*>(event.data);
-        const QString text = QString::fromUtf8(message->text).trimmed();
-        // mpv's warnings are mostly about odd but playable files; its errors are worth seeing.
-        if (message->log_level <= MPV_LOG_LEVEL_ERROR)
-            qCWarning(lcMpv).noquote() << message->prefix << text;
-        else
-            qCDebug(lcMpv).noquote() << message->prefix << text;
-        break;
-    }
-    default:
-        break;
+        default:
+            break;
     }
 }
 
 void MpvMediaPlayer::applyProperty(std::size_t slot, const mpv_event_property& property) {
     // Until the core has our write, what it reports is the value we have just replaced.
-    if (pendingWrites_[slot] > 0)
-        return;
+    if (pendingWrites_[slot] > 0) return;
     kObserved[slot].apply(state_, property);
 }
 
@@ -202,10 +196,8 @@ void MpvMediaPlayer::writeString(std::size_t slot, const char* value) {
 }
 
 void MpvMediaPlayer::writeDone(std::size_t slot, int error) {
-    if (error < 0)
-        qCWarning(lcMpv) << "setting" << kObserved[slot].name << "failed:" << mpv_error_string(error);
-    if (--pendingWrites_[slot] > 0)
-        return;
+    if (error < 0) qCWarning(lcMpv) << "setting" << kObserved[slot].name << "failed:" << mpv_error_string(error);
+    if (--pendingWrites_[slot] > 0) return;
     // mpv may undo a write at once (unpausing at the end pauses again) and then tells nothing, as
     // the value is the one it last told us. Observing afresh makes it report where it stands now;
     // unlike a read, this never waits for the core on this thread, which also renders.
@@ -240,16 +232,12 @@ void MpvMediaPlayer::setRate(float rate) {
     if (backward != state_.backward) {
         // Sound played backwards is noise, and demuxing AAC backwards holds playback up for
         // seconds: the audio track sits out while the movie runs backwards.
-        if (backward)
-            setAudioTrack("no");
+        if (backward) setAudioTrack("no");
         writeString(PlayDirection, backward ? "backward" : "forward");
-        if (!backward)
-            setAudioTrack("auto");
+        if (!backward) setAudioTrack("auto");
     }
-    if (std::abs(rate) != state_.speed)
-        writeDouble(Speed, std::abs(rate));
-    if (state_.paused)
-        writeFlag(Pause, false);
+    if (std::abs(rate) != state_.speed) writeDouble(Speed, std::abs(rate));
+    if (state_.paused) writeFlag(Pause, false);
 }
 
 void MpvMediaPlayer::setAudioTrack(const char* track) {
@@ -257,13 +245,11 @@ void MpvMediaPlayer::setAudioTrack(const char* track) {
 }
 
 void MpvMediaPlayer::pause() {
-    if (!state_.paused)
-        writeFlag(Pause, true);
+    if (!state_.paused) writeFlag(Pause, true);
 }
 
 void MpvMediaPlayer::seek(MediaTime time) {
-    if (!time.isValid())
-        return;
+    if (!time.isValid()) return;
     const double seconds = time.seconds();
     if (!state_.loaded) {
         pendingSeek_ = seconds;
@@ -289,13 +275,13 @@ void MpvMediaPlayer::frameShown() {
 }
 
 void MpvMediaPlayer::logStats() const {
-    if (!lcMpvStats().isInfoEnabled())
-        return;
+    if (!lcMpvStats().isInfoEnabled()) return;
     int64_t decoderDrops = 0;
     int64_t outputDrops = 0;
     mpv_get_property(core_.get(), "frame-drop-count", MPV_FORMAT_INT64, &decoderDrops);
     mpv_get_property(core_.get(), "vo-drop-frame-count", MPV_FORMAT_INT64, &outputDrops);
-    qCInfo(lcMpvStats).noquote() << QStringLiteral("file=%1 first-frame-ms=%2 frames-shown=%3 decoder-drops=%4 output-drops=%5")
+    qCInfo(lcMpvStats).noquote() << QStringLiteral(
+                                        "file=%1 first-frame-ms=%2 frames-shown=%3 decoder-drops=%4 output-drops=%5")
                                         .arg(QString::fromStdString(file_.filename().string()))
                                         .arg(firstFrameMs_.value_or(-1))
                                         .arg(framesShown_)

@@ -5,16 +5,13 @@
 #include <cmath>
 
 PlayerStatus MpvPlaybackState::status() const {
-    if (paused || failed)
-        return PlayerStatus::Paused;
-    if (!loaded || coreIdle || seeking)
-        return PlayerStatus::Waiting;
+    if (paused || failed) return PlayerStatus::Paused;
+    if (!loaded || coreIdle || seeking) return PlayerStatus::Waiting;
     return PlayerStatus::Playing;
 }
 
 float MpvPlaybackState::rate() const {
-    if (paused || failed)
-        return 0.0f;
+    if (paused || failed) return 0.0f;
     return static_cast<float>(backward ? -speed : speed);
 }
 
@@ -24,12 +21,9 @@ bool MpvPlaybackState::restingAtEnd() const {
 }
 
 MediaTime MpvPlaybackState::currentTime(MediaTime duration) const {
-    if (restingAtEnd() && duration.isValid())
-        return duration;
+    if (restingAtEnd() && duration.isValid()) return duration;
     double seconds = position.value_or(0.0);
-    if (!std::isfinite(seconds) || seconds < 0.0)
-        seconds = 0.0;
-    if (duration.isValid() && seconds >= duration.seconds())
-        return duration;
+    if (!std::isfinite(seconds) || seconds < 0.0) seconds = 0.0;
+    if (duration.isValid() && seconds >= duration.seconds()) return duration;
     return MediaTime::make(std::llround(seconds * kMicrosecondsPerSecond), kMicrosecondsPerSecond);
 }

@@ -7,16 +7,16 @@
 #include <optional>
 
 struct MpvPlaybackState {
-    bool loaded = false;         // the file is open and has not ended in error
-    bool failed = false;         // mpv gave up on the file
-    bool paused = true;          // mpv's "pause", set by us or by keep-open at the end
-    bool coreIdle = true;        // "core-idle": not advancing (loading, seeking, buffering, paused)
+    bool loaded = false;   // the file is open and has not ended in error
+    bool failed = false;   // mpv gave up on the file
+    bool paused = true;    // mpv's "pause", set by us or by keep-open at the end
+    bool coreIdle = true;  // "core-idle": not advancing (loading, seeking, buffering, paused)
     bool seeking = false;
     // From our seek until mpv has restarted playback there: "eof-reached" still tells of the place
     // the player is leaving.
     bool seekInFlight = false;
-    bool eofReached = false;     // resting at the end of the file in the playing direction
-    bool backward = false;       // "play-dir"
+    bool eofReached = false;  // resting at the end of the file in the playing direction
+    bool backward = false;    // "play-dir"
     double speed = 1.0;
     std::optional<double> position;  // "time-pos" in seconds; absent before the first frame
 

@@ -8,9 +8,7 @@
 
 #include <QMetaObject>
 
-void MpvRenderContextFree::operator()(mpv_render_context* context) const {
-    mpv_render_context_free(context);
-}
+void MpvRenderContextFree::operator()(mpv_render_context* context) const { mpv_render_context_free(context); }
 
 MpvRenderBinding::MpvRenderBinding(QObject* receiver, std::function<void()> onUpdate)
     : receiver_(receiver), onUpdate_(std::move(onUpdate)) {}
@@ -18,8 +16,7 @@ MpvRenderBinding::MpvRenderBinding(QObject* receiver, std::function<void()> onUp
 bool MpvRenderBinding::attach(MpvRenderSource& source, mpv_render_param* params) {
     release();
     MpvCore core = source.renderCore();
-    if (!core)
-        return false;
+    if (!core) return false;
     mpv_render_context* raw = nullptr;
     if (const int error = mpv_render_context_create(&raw, core.get(), params); error < 0) {
         qCWarning(lcVideoSurface) << "mpv refused a render context:" << mpv_error_string(error);
@@ -49,25 +46,21 @@ void MpvRenderBinding::release() {
 }
 
 bool MpvRenderBinding::nextIsNewFrame() const {
-    if (!context_)
-        return false;
+    if (!context_) return false;
     mpv_render_frame_info info{};
-    if (mpv_render_context_get_info(context_.get(), {MPV_RENDER_PARAM_NEXT_FRAME_INFO, &info}) < 0)
-        return false;
+    if (mpv_render_context_get_info(context_.get(), {MPV_RENDER_PARAM_NEXT_FRAME_INFO, &info}) < 0) return false;
     return (info.flags & MPV_RENDER_FRAME_INFO_PRESENT) && !(info.flags & MPV_RENDER_FRAME_INFO_REDRAW);
 }
 
 void MpvRenderBinding::requestUpdate(void* context) {
     // Called on one of mpv's threads: post the work to the surface's thread, nothing more.
     auto* self = static_cast<MpvRenderBinding*>(context);
-    if (self->updatePosted_.exchange(true))
-        return;
+    if (self->updatePosted_.exchange(true)) return;
     QMetaObject::invokeMethod(
         self->receiver_,
         [self] {
             self->updatePosted_ = false;
-            if (self->context_)
-                self->onUpdate_();
+            if (self->context_) self->onUpdate_();
         },
         Qt::QueuedConnection);
 }

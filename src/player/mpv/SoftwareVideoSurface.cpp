@@ -16,8 +16,7 @@ SoftwareVideoSurface::SoftwareVideoSurface(QWidget* parent)
 
 void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
     MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
-    if (source == source_)
-        return;
+    if (source == source_) return;
     binding_.release();
     hasFrame_ = newFrame_ = false;
     source_ = source;
@@ -35,8 +34,7 @@ void SoftwareVideoSurface::onMpvUpdate() {
     // The frame is converted here, when mpv says it is due, never by waiting for one in paintEvent.
     if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
         const bool newFrame = binding_.nextIsNewFrame();
-        if (newFrame && newFrame_)
-            qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
+        if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
         renderFrame();
         newFrame_ = (newFrame_ || newFrame) && hasFrame_;
     }
@@ -45,8 +43,7 @@ void SoftwareVideoSurface::onMpvUpdate() {
 void SoftwareVideoSurface::renderFrame() {
     const qreal ratio = devicePixelRatioF();
     frame_.resize(size() * ratio);
-    if (frame_.isEmpty() || !binding_.context())
-        return;
+    if (frame_.isEmpty() || !binding_.context()) return;
     frame_.setDevicePixelRatio(ratio);
     int size[2]{frame_.size().width(), frame_.size().height()};
     std::size_t stride = frame_.stride();
@@ -65,8 +62,7 @@ void SoftwareVideoSurface::renderFrame() {
 
 void SoftwareVideoSurface::resizeEvent(QResizeEvent*) {
     // A paused movie gets no new frame: draw the current one again at the new size.
-    if (hasFrame_)
-        renderFrame();
+    if (hasFrame_) renderFrame();
 }
 
 void SoftwareVideoSurface::paintEvent(QPaintEvent*) {

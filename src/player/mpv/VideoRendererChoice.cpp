@@ -22,13 +22,11 @@ std::string lowered(std::string_view text) {
 
 std::optional<std::string> probeGLRenderer() {
     QOpenGLContext context;
-    if (!context.create())
-        return std::nullopt;
+    if (!context.create()) return std::nullopt;
     QOffscreenSurface surface;
     surface.setFormat(context.format());
     surface.create();
-    if (!surface.isValid() || !context.makeCurrent(&surface))
-        return std::nullopt;
+    if (!surface.isValid() || !context.makeCurrent(&surface)) return std::nullopt;
     const auto* name = reinterpret_cast<const char*>(context.functions()->glGetString(GL_RENDERER));
     std::optional<std::string> renderer = name ? std::optional<std::string>(name) : std::nullopt;
     context.doneCurrent();
@@ -41,17 +39,15 @@ bool isSoftwareGLRenderer(std::string_view glRenderer) {
     static constexpr auto kSoftware = std::to_array<std::string_view>(
         {"llvmpipe", "softpipe", "software rasterizer", "swrast", "swr", "lavapipe", "microsoft basic render"});
     const std::string name = lowered(glRenderer);
-    return std::ranges::any_of(kSoftware, [&](std::string_view marker) { return name.find(marker) != std::string::npos; });
+    return std::ranges::any_of(kSoftware,
+                               [&](std::string_view marker) { return name.find(marker) != std::string::npos; });
 }
 
 VideoRenderer decideVideoRenderer(std::string_view forced, std::string_view platform,
                                   const std::optional<std::string>& glRenderer) {
-    if (platform == "offscreen" || platform == "minimal")
-        return VideoRenderer::Software;
-    if (forced == "gl")
-        return VideoRenderer::OpenGL;
-    if (forced == "sw")
-        return VideoRenderer::Software;
+    if (platform == "offscreen" || platform == "minimal") return VideoRenderer::Software;
+    if (forced == "gl") return VideoRenderer::OpenGL;
+    if (forced == "sw") return VideoRenderer::Software;
     return glRenderer && !isSoftwareGLRenderer(*glRenderer) ? VideoRenderer::OpenGL : VideoRenderer::Software;
 }
 
@@ -65,8 +61,8 @@ VideoRenderer chosenVideoRenderer() {
         const std::optional<std::string> glRenderer = needProbe ? probeGLRenderer() : std::nullopt;
         const VideoRenderer renderer = decideVideoRenderer(forced, platform, glRenderer);
         qCInfo(lcVideoSurface).noquote() << "video renderer:"
-                                         << (renderer == VideoRenderer::OpenGL ? "OpenGL" : "software")
-                                         << "(platform" << QString::fromStdString(platform) << ", GL renderer"
+                                         << (renderer == VideoRenderer::OpenGL ? "OpenGL" : "software") << "(platform"
+                                         << QString::fromStdString(platform) << ", GL renderer"
                                          << QString::fromStdString(glRenderer.value_or("not probed")) + ")";
         return renderer;
     }();

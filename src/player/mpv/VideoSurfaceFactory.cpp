@@ -5,7 +5,6 @@
 #include "VideoRendererChoice.h"
 
 std::unique_ptr<VideoSurface> makeVideoSurface(QWidget* parent) {
-    if (chosenVideoRenderer() == VideoRenderer::OpenGL)
-        return std::make_unique<GLVideoSurface>(parent);
+    if (chosenVideoRenderer() == VideoRenderer::OpenGL) return std::make_unique<GLVideoSurface>(parent);
     return std::make_unique<SoftwareVideoSurface>(parent);
 }

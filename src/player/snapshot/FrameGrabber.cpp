@@ -27,8 +27,7 @@ std::optional<VideoInput> openVideo(const std::filesystem::path& movie) {
     if (avformat_find_stream_info(input.format.get(), nullptr) < 0) return std::nullopt;
 
     const AVCodec* codec = nullptr;
-    input.streamIndex =
-        av_find_best_stream(input.format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
+    input.streamIndex = av_find_best_stream(input.format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
     if (input.streamIndex < 0 || codec == nullptr) return std::nullopt;
     for (unsigned i = 0; i < input.format->nb_streams; ++i) {
         if (static_cast<int>(i) != input.streamIndex) input.format->streams[i]->discard = AVDISCARD_ALL;
@@ -36,8 +35,7 @@ std::optional<VideoInput> openVideo(const std::filesystem::path& movie) {
 
     input.decoder.reset(avcodec_alloc_context3(codec));
     if (!input.decoder ||
-        avcodec_parameters_to_context(input.decoder.get(),
-                                      input.format->streams[input.streamIndex]->codecpar) < 0 ||
+        avcodec_parameters_to_context(input.decoder.get(), input.format->streams[input.streamIndex]->codecpar) < 0 ||
         avcodec_open2(input.decoder.get(), codec, nullptr) < 0) {
         return std::nullopt;
     }
@@ -49,8 +47,7 @@ std::optional<VideoInput> openVideo(const std::filesystem::path& movie) {
 std::optional<int64_t> streamTimestamp(const VideoInput& input, MediaTime time) {
     if (!time.isValid()) return std::nullopt;
     const AVRational timeBase = input.format->streams[input.streamIndex]->time_base;
-    const int64_t at = av_rescale_q_rnd(time.value, AVRational{1, time.timescale}, timeBase,
-                                        AV_ROUND_NEAR_INF);
+    const int64_t at = av_rescale_q_rnd(time.value, AVRational{1, time.timescale}, timeBase, AV_ROUND_NEAR_INF);
     const int64_t start = input.format->start_time == AV_NOPTS_VALUE
                               ? 0
                               : av_rescale_q(input.format->start_time, AV_TIME_BASE_Q, timeBase);
@@ -113,16 +110,13 @@ std::optional<RgbImage> toRgb(const AVFrame& frame) {
     const auto format = static_cast<AVPixelFormat>(frame.format);
     // The ffmpeg program's own conversion, so a snapshot equals the frame it extracts.
     SwsContextPtr scaler(sws_getContext(width, height, format, width, height, AV_PIX_FMT_RGB24,
-                                        SWS_BICUBIC | SWS_FULL_CHR_H_INT, nullptr, nullptr,
-                                        nullptr));
+                                        SWS_BICUBIC | SWS_FULL_CHR_H_INT, nullptr, nullptr, nullptr));
     if (!scaler) return std::nullopt;
 
-    const SnapshotColour colour =
-        SnapshotColour::forFrame(frame.colorspace, frame.color_range, width, height);
+    const SnapshotColour colour = SnapshotColour::forFrame(frame.colorspace, frame.color_range, width, height);
     const int* matrix = sws_getCoefficients(colour.swsColorspace);
     // RGB sources have no matrix; swscale refuses the details then and converts them as they are.
-    sws_setColorspaceDetails(scaler.get(), matrix, colour.fullRange ? 1 : 0, matrix, 1, 0, 1 << 16,
-                             1 << 16);
+    sws_setColorspaceDetails(scaler.get(), matrix, colour.fullRange ? 1 : 0, matrix, 1, 0, 1 << 16, 1 << 16);
 
     FramePtr rgb(av_frame_alloc());
     if (!rgb) return std::nullopt;
@@ -130,8 +124,7 @@ std::optional<RgbImage> toRgb(const AVFrame& frame) {
     rgb->width = width;
     rgb->height = height;
     if (av_frame_get_buffer(rgb.get(), 0) < 0) return std::nullopt;
-    if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, height, rgb->data, rgb->linesize) !=
-        height) {
+    if (sws_scale(scaler.get(), frame.data, frame.linesize, 0, height, rgb->data, rgb->linesize) != height) {
         return std::nullopt;
     }
 
@@ -141,8 +134,7 @@ std::optional<RgbImage> toRgb(const AVFrame& frame) {
     image.pixels.resize(image.rowBytes() * static_cast<std::size_t>(height));
     for (int y = 0; y < height; ++y) {
         std::memcpy(image.pixels.data() + image.rowBytes() * static_cast<std::size_t>(y),
-                    rgb->data[0] + static_cast<std::ptrdiff_t>(rgb->linesize[0]) * y,
-                    image.rowBytes());
+                    rgb->data[0] + static_cast<std::ptrdiff_t>(rgb->linesize[0]) * y, image.rowBytes());
     }
     return image;
 }

@@ -9,8 +9,8 @@ std::optional<std::vector<uint8_t>> PngEncoder::encode(const RgbImage& image) {
         return std::nullopt;
     }
     // Wraps the pixels without copying; Qt's PNG writer does not interlace.
-    const QImage frame(image.pixels.data(), image.width, image.height,
-                       static_cast<qsizetype>(image.rowBytes()), QImage::Format_RGB888);
+    const QImage frame(image.pixels.data(), image.width, image.height, static_cast<qsizetype>(image.rowBytes()),
+                       QImage::Format_RGB888);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !frame.save(&buffer, "PNG")) return std::nullopt;

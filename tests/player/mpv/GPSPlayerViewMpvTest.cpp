@@ -68,7 +68,8 @@ TEST_F(GPSPlayerViewMpvTest, PlaysAMovieReportingItsSamplesInOrderUpToTheEnd) {
         float longitude;
         float speed;
     };
-    const Expected expected[] = {{0, 0.0f, 0.0f, 0.0f}, {1, 22.298280f, 114.172045f, 18.5f}, {2, 22.298341f, 114.172042f, 12.0f}};
+    const Expected expected[] = {
+        {0, 0.0f, 0.0f, 0.0f}, {1, 22.298280f, 114.172045f, 18.5f}, {2, 22.298341f, 114.172042f, 12.0f}};
     for (std::size_t i = 0; i < std::size(expected); ++i) {
         SCOPED_TRACE(i);
         const auto& [index, sample] = delegate_.samples[i];

@@ -117,8 +117,9 @@ TEST_F(MpvMediaPlayerTest, SeeksLandWhereAsked) {
     EXPECT_EQ(player->timeControlStatus(), PlayerStatus::Paused);
     player->play();
     player->seek(MediaTime::make(700, 100));
-    ASSERT_TRUE(runUntil([&] { return player->timeControlStatus() == PlayerStatus::Playing && seconds(*player) >= 7.0; }))
-        << seconds(*player);
+    ASSERT_TRUE(runUntil([&] {
+        return player->timeControlStatus() == PlayerStatus::Playing && seconds(*player) >= 7.0;
+    })) << seconds(*player);
     EXPECT_LT(seconds(*player), 8.0);
 }
 

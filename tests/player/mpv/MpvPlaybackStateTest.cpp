@@ -28,13 +28,28 @@ TEST(MpvPlaybackStateTest, StatusFollowsPauseLoadingSeekingAndFailure) {
     };
     const Case cases[] = {
         {"playing", [](MpvPlaybackState&) {}, PlayerStatus::Playing, 1.0f},
-        {"paused", [](MpvPlaybackState& s) { s.paused = true; s.coreIdle = true; }, PlayerStatus::Paused, 0.0f},
+        {"paused",
+         [](MpvPlaybackState& s) {
+             s.paused = true;
+             s.coreIdle = true;
+         },
+         PlayerStatus::Paused, 0.0f},
         {"still loading", [](MpvPlaybackState& s) { s.loaded = false; }, PlayerStatus::Waiting, 1.0f},
         {"seeking", [](MpvPlaybackState& s) { s.seeking = true; }, PlayerStatus::Waiting, 1.0f},
         {"held by the cache", [](MpvPlaybackState& s) { s.coreIdle = true; }, PlayerStatus::Waiting, 1.0f},
-        {"failed", [](MpvPlaybackState& s) { s.failed = true; s.loaded = false; }, PlayerStatus::Paused, 0.0f},
+        {"failed",
+         [](MpvPlaybackState& s) {
+             s.failed = true;
+             s.loaded = false;
+         },
+         PlayerStatus::Paused, 0.0f},
         {"double rate", [](MpvPlaybackState& s) { s.speed = 2.0; }, PlayerStatus::Playing, 2.0f},
-        {"backward", [](MpvPlaybackState& s) { s.speed = 2.0; s.backward = true; }, PlayerStatus::Playing, -2.0f},
+        {"backward",
+         [](MpvPlaybackState& s) {
+             s.speed = 2.0;
+             s.backward = true;
+         },
+         PlayerStatus::Playing, -2.0f},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);

@@ -15,16 +15,14 @@ void runSlice() {
 
 bool runUntil(const std::function<bool()>& done, int maxSlices) {
     for (int slice = 0; slice < maxSlices; ++slice) {
-        if (done())
-            return true;
+        if (done()) return true;
         runSlice();
     }
     return done();
 }
 
 void runFor(int slices) {
-    for (int slice = 0; slice < slices; ++slice)
-        runSlice();
+    for (int slice = 0; slice < slices; ++slice) runSlice();
 }
 
 bool isAtRest(const MediaPlayer& player) {

@@ -7,9 +7,7 @@
 #include <filesystem>
 #include <functional>
 
-inline std::filesystem::path testClip(const char* name) {
-    return std::filesystem::path(MPV_TEST_CLIP_DIR) / name;
-}
+inline std::filesystem::path testClip(const char* name) { return std::filesystem::path(MPV_TEST_CLIP_DIR) / name; }
 
 // Runs the event loop in short slices until done() holds; false if it never did within the bound.
 // The bound is generous and only keeps a broken player from hanging the run.

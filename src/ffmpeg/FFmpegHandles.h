@@ -1,6 +1,5 @@
 #pragma once
-// Owning handles for the FFmpeg objects the frame grabber uses: each frees its object the way
-// FFmpeg wants it freed.
+// Owning handles for FFmpeg objects: each frees its object the way FFmpeg wants it freed.
 
 extern "C" {
 #include <libavcodec/avcodec.h>
