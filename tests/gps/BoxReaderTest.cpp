@@ -41,6 +41,8 @@ struct TypeCase {
     bool found;
 };
 
+void PrintTo(const TypeCase& c, std::ostream* out) { *out << c.name; }
+
 class BoxTypeMatchTest : public testing::TestWithParam<TypeCase> {};
 
 TEST_P(BoxTypeMatchTest, MatchesTypesExactly) {
@@ -84,6 +86,8 @@ struct FtypCase {
     std::size_t size;
     bool isMP4;
 };
+
+void PrintTo(const FtypCase& c, std::ostream* out) { *out << c.size << "-byte ftyp"; }
 
 class IsMP4Test : public testing::TestWithParam<FtypCase> {};
 

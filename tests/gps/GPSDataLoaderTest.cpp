@@ -125,6 +125,10 @@ TEST(IndexLayoutTest, MaximumSpeedIsTheLargestStoredSpeed) {
     EXPECT_EQ(load(indexMovie(28, {block(-500), block(7)})).maxSpeed, 200.0f);  // the stored speed is capped
 }
 
+void PrintTo(const SoundFormat& f, std::ostream* out) {
+    *out << f.channels << "x" << f.bits << "-bit " << f.rate << " Hz";
+}
+
 class SoundChunkLayoutTest : public testing::TestWithParam<SoundFormat> {};
 
 TEST_P(SoundChunkLayoutTest, FindsABlockAfterEverySoundChunk) {

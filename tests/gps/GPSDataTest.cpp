@@ -36,6 +36,8 @@ GPSDATA scaledRecord(float latitude, char ns, float longitude, char ew, float kn
     return r;
 }
 
+void PrintTo(const FormCase& c, std::ostream* out) { *out << c.name; }
+
 class GPSDataFormTest : public testing::TestWithParam<FormCase> {
 protected:
     TimeZoneGuard utc{"UTC0"};
@@ -143,6 +145,8 @@ RMCINFO at(uint32_t year, uint32_t month, uint32_t day, uint32_t hour, uint32_t 
     f.Second = second;
     return f;
 }
+
+void PrintTo(const ShiftCase& c, std::ostream* out) { *out << c.name; }
 
 class HourShiftTest : public testing::TestWithParam<ShiftCase> {};
 

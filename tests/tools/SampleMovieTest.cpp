@@ -93,6 +93,8 @@ std::string caseName(const testing::TestParamInfo<MovieCase>& info) {
     return std::string(layouts[int(info.param.layout)]) + forms[int(info.param.form)];
 }
 
+void PrintTo(const MovieCase& c, std::ostream* out) { *out << caseName(testing::TestParamInfo<MovieCase>(c, 0)); }
+
 class SampleMovie : public testing::TestWithParam<MovieCase> {};
 
 }  // namespace
