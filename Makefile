@@ -2,6 +2,7 @@
 BUILD      ?= build
 SAN_BUILD  ?= build-sanitize
 JOBS       ?= $(shell nproc)
+MAKEFLAGS  += --no-print-directory
 FUZZ_SECONDS ?= 60
 
 .PHONY: all deps configure build run test test-unit test-sanitize fuzz bench clean
