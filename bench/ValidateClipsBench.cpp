@@ -1,4 +1,5 @@
 // How long validating a folder of camera clips takes: validURLs over 500 distinct files.
+#include "FFmpegVideoTrackProbe.h"
 #include "GPSUtils.h"
 
 #include <benchmark/benchmark.h>
@@ -39,7 +40,7 @@ private:
 
 void validateFolder(benchmark::State& state) {
     const ClipFolder folder;
-    const GPSUtils utils({.userFile = {}, .shippedFile = {}});
+    const GPSUtils utils({.userFile = {}, .shippedFile = {}}, defaultVideoTrackProbe());
     std::size_t valid = 0;
     for (auto _ : state) {
         const auto result = utils.validURLs(folder.files());

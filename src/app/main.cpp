@@ -1,5 +1,7 @@
 // dashtrack: a window that plays one movie with its GPS track.
 
+#include "FFmpegVideoTrackProbe.h"
+#include "GPSUtils.h"
 #include "PlayerWindow.h"
 
 #include <QApplication>
@@ -12,6 +14,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Dashtrack"));
     // libmpv needs C number formatting; QApplication has just set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
+    GPSUtils::sharedUtils().setVideoTrackProbe(defaultVideoTrackProbe());
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Plays a dash camera movie with its GPS track."));

@@ -2,7 +2,7 @@
 
 #include "Diagnostics.h"
 #include "GPSDataLoader.h"
-#include "VideoTrackProbe.h"
+#include "FFmpegVideoTrackProbe.h"
 
 #include <ostream>
 #include <string>

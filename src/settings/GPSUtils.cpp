@@ -22,7 +22,7 @@ GPSUtils& GPSUtils::sharedUtils() {
 }
 
 GPSUtils::GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe)
-    : settings_(SettingsFile::load(location)), probe_(probe ? std::move(probe) : defaultVideoTrackProbe()) {}
+    : settings_(SettingsFile::load(location)), probe_(std::move(probe)) {}
 
 uint64_t GPSUtils::unitType() const { return settings_.unsignedValue(unitTypeKey).value_or(0); }
 
@@ -54,7 +54,7 @@ int32_t GPSUtils::MaxSpeedKMH(float speed) {
 const std::optional<std::filesystem::path>& GPSUtils::envURL() const { return settings_.path(); }
 
 bool GPSUtils::isValidURL(const std::optional<std::filesystem::path>& url) const {
-    return url && probe_->hasVideoTrack(*url);
+    return url && probe_ && probe_->hasVideoTrack(*url);
 }
 
 std::vector<std::filesystem::path> GPSUtils::validURLs(const std::vector<std::filesystem::path>& urls) const {

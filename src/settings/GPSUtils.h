@@ -19,8 +19,7 @@ public:
     static GPSUtils& sharedUtils();
 
     // Tests and tools make their own with chosen files and probe.
-    explicit GPSUtils(SettingsLocation location,
-                      std::shared_ptr<const VideoTrackProbe> probe = defaultVideoTrackProbe());
+    explicit GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe = nullptr);
 
     // 0 MPH, anything else KM/H.
     uint64_t unitType() const;
@@ -44,13 +43,16 @@ public:
     const std::optional<std::filesystem::path>& envURL() const;
     const SettingsFile& envInfo() const { return settings_; }
 
+    // The media libraries stay out of the settings store: the program that opens movies hands it
+    // the probe that decides. Without one, no file counts as a movie.
+    void setVideoTrackProbe(std::shared_ptr<const VideoTrackProbe> probe) { probe_ = std::move(probe); }
+
     // Playable movie: a readable file with at least one video track, whatever its name.
     bool isValidURL(const std::optional<std::filesystem::path>& url) const;
     std::vector<std::filesystem::path> validURLs(const std::vector<std::filesystem::path>& urls) const;
     std::vector<std::filesystem::path> validURLsWithPasteboard(const FilePasteboard& pasteboard) const;
 
-    const VideoTrackProbe& videoTrackProbe() const { return *probe_; }
-    // For work that outlives the call, such as a ValidationJob.
+    // For work that outlives the call, such as a ValidationJob; null when no probe was given.
     std::shared_ptr<const VideoTrackProbe> sharedVideoTrackProbe() const { return probe_; }
 
 private:

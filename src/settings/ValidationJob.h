@@ -21,7 +21,7 @@ public:
     using Progress = std::function<void(std::size_t done, std::size_t total)>;
     using Completion = std::function<void(const Files& valid)>;
 
-    // Starts at once. Progress is reported after each file; completion, only when the whole list
+    // Starts at once. Without a probe no file is valid. Progress is reported after each file; completion, only when the whole list
     // was validated, comes before the result is made available.
     ValidationJob(std::shared_ptr<const VideoTrackProbe> probe, Files files, Progress progress = {},
                   Completion completion = {});
@@ -36,7 +36,7 @@ public:
     void cancel() { worker_.request_stop(); }
 
 private:
-    static std::optional<Files> run(const std::stop_token& stop, const VideoTrackProbe& probe, const Files& files,
+    static std::optional<Files> run(const std::stop_token& stop, const VideoTrackProbe* probe, const Files& files,
                                     const Progress& progress);
 
     std::shared_future<std::optional<Files>> result_;

@@ -12,6 +12,3 @@ public:
     // thread.
     virtual bool hasVideoTrack(const std::filesystem::path& file) const = 0;
 };
-
-// The probe backed by the media libraries, shared by the whole program.
-std::shared_ptr<const VideoTrackProbe> defaultVideoTrackProbe();

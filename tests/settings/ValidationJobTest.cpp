@@ -1,3 +1,4 @@
+#include "FFmpegVideoTrackProbe.h"
 #include "GPSUtils.h"
 #include "ValidationJob.h"
 
@@ -11,7 +12,7 @@ namespace {
 const std::filesystem::path media = SETTINGS_TEST_MEDIA_DIR;
 
 TEST(ValidationJob, GivesTheAnswerOfValidURLsWithProgressUpToTotal) {
-    const GPSUtils utils({.userFile = {}, .shippedFile = {}});
+    const GPSUtils utils({.userFile = {}, .shippedFile = {}}, defaultVideoTrackProbe());
     const std::vector<std::filesystem::path> files{media / "video.mp4",   media / "text.mp4",  media / "video.avi",
                                                    media / "missing.mp4", media / "video.mp4", media / "cover.m4a"};
     std::vector<std::pair<std::size_t, std::size_t>> progress;  // only the worker touches it until the end

@@ -1,3 +1,4 @@
+#include "FFmpegVideoTrackProbe.h"
 #include "GPSUtils.h"
 #include "TestFiles.h"
 
@@ -6,7 +7,7 @@
 namespace {
 
 const std::filesystem::path media = SETTINGS_TEST_MEDIA_DIR;
-const GPSUtils utils({.userFile = {}, .shippedFile = {}});
+const GPSUtils utils({.userFile = {}, .shippedFile = {}}, defaultVideoTrackProbe());
 
 TEST(Validation, AcceptsOnlyMoviesWithAPicture) {
     const struct {
