@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # End-to-end check of the player window: under a virtual X display, plays a movie with each video
 # renderer, takes two screenshots a second apart and checks that the window shows a picture (not
-# black) that moves. The screenshots stay in OUT_DIR for a look.
+# black) that moves, and that the player printed nothing. The movie is played from a copy whose
+# name is not UTF-8, as a Linux file name may be. The screenshots stay in OUT_DIR for a look.
 #
 #   scripts/e2e-player-window.sh DASHTRACK_BINARY MOVIE OUT_DIR
 set -euo pipefail
@@ -15,7 +16,15 @@ source "$here/e2e-xvfb-lib.sh"
 
 min_brightness=0.10  # mean over the window, 0 (black) to 1 (white)
 mkdir -p "$out"
+work=$(mktemp -d)
+xvfb_on_exit "rm -rf '$work'"
 xvfb_start 1920x1080x24
+
+# A desktop session has a private runtime folder; without one Qt says so on stderr.
+export XDG_RUNTIME_DIR=$work/runtime
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+named_movie=$work/$'clip-\xff-'$(basename "$movie")
+cp "$movie" "$named_movie"
 
 app_pid=
 stop_app() {
@@ -31,7 +40,7 @@ check_renderer() {
   local renderer=$1 window geometry mean changed
   echo "e2e: $renderer renderer on $DISPLAY"
   DASHTRACK_VIDEO_RENDERER=$renderer DASHTRACK_AUDIO_OUTPUT=null QT_QPA_PLATFORM=xcb \
-    "$app" "$movie" >"$out/$renderer.log" 2>&1 &
+    "$app" "$named_movie" >"$out/$renderer.log" 2>&1 &
   app_pid=$!
   if ! window=$(xvfb_wait_for_window Dashtrack "$app_pid"); then
     echo "e2e: FAIL ($renderer): no Dashtrack window appeared" >&2
@@ -61,6 +70,12 @@ check_renderer() {
   fi
   if ! awk -v c="$changed" 'BEGIN { exit !(c + 0 > 1000) }'; then
     echo "e2e: FAIL ($renderer): the picture does not move ($changed pixels changed)" >&2
+    return 1
+  fi
+  # Quiet by default: a normal run prints nothing on stdout or stderr.
+  if [ -s "$out/$renderer.log" ]; then
+    echo "e2e: FAIL ($renderer): the player printed in a normal run:" >&2
+    cat "$out/$renderer.log" >&2
     return 1
   fi
 }

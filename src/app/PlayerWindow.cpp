@@ -8,19 +8,19 @@ PlayerWindow::PlayerWindow(Options options) : options_(options), view_(new GPSPl
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view_);
-    view_->setDelegate(this);
+    view_->engine().setDelegate(this);
     resize(1280, 720);
 }
 
 void PlayerWindow::play(const std::filesystem::path& movie) {
-    view_->setMovie(movie);
-    view_->Resume();
+    view_->engine().setMovie(movie);
+    view_->engine().Resume();
 }
 
-void PlayerWindow::Completed(GPSPlayerView& view) {
+void PlayerWindow::Completed(GPSPlayerEngine& engine) {
     if (!options_.quitAtEnd) {
         // Back to the start, paused, as the player does after the last movie of a playlist.
-        view.Seek(0.0);
+        engine.Seek(0.0);
         return;
     }
     // Sent on every tick at the end; quit once.

@@ -20,7 +20,7 @@ public:
     // Loads the movie and starts it.
     void play(const std::filesystem::path& movie);
 
-    void Completed(GPSPlayerView& view) override;
+    void Completed(GPSPlayerEngine& engine) override;
 
 private:
     Options options_;

@@ -2,6 +2,7 @@
 
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSUtils.h"
+#include "MovieArguments.h"
 #include "PlayerWindow.h"
 
 #include <QApplication>
@@ -27,7 +28,7 @@ int main(int argc, char** argv) {
 
     PlayerWindow window({.quitAtEnd = parser.isSet(quitAtEnd)});
     window.show();
-    if (const QStringList movies = parser.positionalArguments(); !movies.isEmpty())
-        window.play(movies.first().toStdString());
+    // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
+    if (const auto movies = movieArguments(argc, argv); !movies.empty()) window.play(movies.front());
     return QApplication::exec();
 }

@@ -1,33 +1,15 @@
 #include "GPSPlayerView.h"
 
-#include "FrameGrabber.h"
-#include "GPSDataLoader.h"
-#include "GPSUtils.h"
-#include "PlaybackMath.h"
-#include "PlayerTrack.h"
-#include "PngEncoder.h"
-#include "QtUpdateTimer.h"
-
-#include <QLoggingCategory>
+#include <QPalette>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <chrono>
-#include <limits>
-
-Q_LOGGING_CATEGORY(lcPlayerView, "dashtrack.player")
-
-namespace {
-constexpr std::chrono::milliseconds kTickInterval{100};
-}
 
 GPSPlayerView::GPSPlayerView(std::shared_ptr<MediaPlayerFactory> playerFactory, const SurfaceMaker& makeSurface,
                              std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings, QWidget* parent)
     : QWidget(parent),
-      playerFactory_(std::move(playerFactory)),
-      updateTimer_(updateTimer ? std::move(updateTimer) : std::make_unique<QtUpdateTimer>()),
-      settings_(settings),
+      surface_(makeSurface ? makeSurface(this) : nullptr),
+      engine_(std::move(playerFactory), surface_.get(), std::move(updateTimer), settings),
       fullScreen_(*this) {
+    // Black around the picture and where there is none.
     setAutoFillBackground(true);
     QPalette black = palette();
     black.setColor(QPalette::Window, Qt::black);
@@ -36,173 +18,7 @@ GPSPlayerView::GPSPlayerView(std::shared_ptr<MediaPlayerFactory> playerFactory, 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    if (makeSurface) surface_ = makeSurface(this);
     if (surface_ && surface_->widget() != nullptr) layout->addWidget(surface_->widget());
-
-    // The stored volume goes through setVolume like any other; unmuting then restores it, or
-    // the fallback when it was 0.
-    const double stored = settings_.volume();
-    setVolume(stored);
-    volume_ = VolumeState(stored);
 }
 
-GPSPlayerView::~GPSPlayerView() {
-    StopTimer();
-    // The surface must let go of the players before they are destroyed.
-    showInSurface(nullptr);
-}
-
-bool GPSPlayerView::IsPlaying() const {
-    return mediaPlayer_ && mediaPlayer_->timeControlStatus() == PlayerStatus::Playing;
-}
-
-float GPSPlayerView::speed() const { return mediaPlayer_ ? mediaPlayer_->rate() : 1.0f; }
-
-void GPSPlayerView::setSpeed(float speed) {
-    if (mediaPlayer_) mediaPlayer_->setRate(speed);
-}
-
-float GPSPlayerView::maxSpeed() const { return std::max(speedMax_, GPSUtils::defaultMaxSpeed()); }
-
-float GPSPlayerView::seekUnit() const { return mediaPlayer_ ? tenSecondShare(duration_) : 0.0f; }
-
-void GPSPlayerView::setMuted(bool muted) {
-    volume_.setIsMuted(muted);
-    if (!mediaPlayer_) return;
-    mediaPlayer_->setMuted(muted);
-    if (const auto restored = volume_.volumeOnMute(muted, mediaPlayer_->volume())) {
-        mediaPlayer_->setVolume(*restored);
-    }
-}
-
-void GPSPlayerView::setVolume(double volume) {
-    volume_.noteVolume(volume);
-    settings_.setVolume(static_cast<float>(volume));
-    if (mediaPlayer_) mediaPlayer_->setVolume(static_cast<float>(volume));
-}
-
-void GPSPlayerView::setMovie(const std::filesystem::path& url) {
-    Stop();
-    fileURL_ = url;
-    mediaPlayer_ = playerFactory_ ? playerFactory_->playerWithURL(url) : nullptr;
-    if (!mediaPlayer_) {
-        qCDebug(lcPlayerView) << "no player for" << url.c_str();
-        return;
-    }
-    mediaPlayer_->setVolume(static_cast<float>(volume_.lastVolume()));
-    mediaPlayer_->setMuted(volume_.isMuted());
-    duration_ = mediaPlayer_->duration().seconds();
-    cursor_.setCurIndex(-1);
-    showInSurface(mediaPlayer_.get());
-    shownEmptyPlayer_.reset();
-
-    float loaderMax = 0;
-    std::vector<GPSData> records = GPSDataLoader::LoadGPSDataList(url, &loaderMax);
-    PlayerTrack track = PlayerTrack::fromLoaded(std::move(records), loaderMax);
-    gpsDataList_ = std::move(track.samples);
-    speedMax_ = track.speedMax;
-    StartTimer();
-}
-
-void GPSPlayerView::Resume() {
-    if (mediaPlayer_ && mediaPlayer_->timeControlStatus() != PlayerStatus::Playing) {
-        mediaPlayer_->play();
-    }
-}
-
-void GPSPlayerView::Pause() {
-    if (mediaPlayer_ && mediaPlayer_->timeControlStatus() == PlayerStatus::Playing) {
-        mediaPlayer_->pause();
-    }
-}
-
-void GPSPlayerView::Stop() {
-    if (mediaPlayer_) {
-        mediaPlayer_->pause();
-        // The empty player blanks the picture before the movie's player goes away.
-        std::unique_ptr<MediaPlayer> empty = playerFactory_ ? playerFactory_->emptyPlayer() : nullptr;
-        showInSurface(empty.get());
-        StopTimer();
-        mediaPlayer_.reset();
-        shownEmptyPlayer_ = std::move(empty);
-    }
-    if (delegate_) delegate_->UpdatedPlayingStatus(*this, false);
-}
-
-void GPSPlayerView::Seek(double fraction) {
-    if (!mediaPlayer_) return;
-    if (const auto target = seekTarget(fraction, duration_)) mediaPlayer_->seek(*target);
-}
-
-void GPSPlayerView::StartTimer() {
-    StopTimer();
-    // Not a status a fresh player has, so the first tick reports the player's status.
-    prevStatus_ = static_cast<int64_t>(PlayerStatus::Waiting);
-    // Each firing only posts the tick: it runs in a later turn of the event loop, never inside
-    // the timer's callback, and one posted before Stop still runs after it.
-    updateTimer_->start(kTickInterval, [this] {
-        QMetaObject::invokeMethod(
-            this, [this] { tick(); }, Qt::QueuedConnection);
-    });
-}
-
-void GPSPlayerView::StopTimer() {
-    if (updateTimer_->isActive()) updateTimer_->stop();
-}
-
-void GPSPlayerView::tick() {
-    const PlayerStatus status = mediaPlayer_ ? mediaPlayer_->timeControlStatus() : PlayerStatus::Paused;
-    if (static_cast<int64_t>(status) != prevStatus_) {
-        prevStatus_ = static_cast<int64_t>(status);
-        if (delegate_) delegate_->UpdatedPlayingStatus(*this, status == PlayerStatus::Playing);
-    }
-    if (mediaPlayer_ && status == PlayerStatus::Playing) {
-        update();
-        return;
-    }
-    // Exact equality: a movie at rest on its last frame stands at its duration. Not-a-number (no
-    // player) never equals.
-    if (currentSeconds() == duration_ && delegate_) delegate_->Completed(*this);
-}
-
-void GPSPlayerView::update() {
-    if (!mediaPlayer_) return;
-    const double t = currentSeconds();
-    const uint64_t count = gpsDataList_ ? gpsDataList_->size() : 0;
-    if (const auto index = cursor_.advance(t, count)) {
-        // A copy: the receiver may load another movie, which replaces the track.
-        const GPSData sample = (*gpsDataList_)[*index];
-        if (delegate_) delegate_->UpdatedGPSInfo(*this, sample, *index);
-    }
-    if (delegate_) delegate_->UpdateDuration(*this, playbackProgress(t, duration_));
-}
-
-std::optional<std::vector<uint8_t>> GPSPlayerView::snapshot() const {
-    if (!mediaPlayer_ || mediaPlayer_->timeControlStatus() == PlayerStatus::Waiting || !fileURL_) {
-        return std::nullopt;
-    }
-    const MediaTime at = mediaPlayer_->hasItem() ? mediaPlayer_->currentTime() : MediaTime{};
-    const std::optional<RgbImage> frame = FrameGrabber::frameAt(*fileURL_, at);
-    if (!frame) {
-        qCDebug(lcPlayerView) << "no frame at" << at.seconds() << "in" << fileURL_->c_str();
-        return std::nullopt;
-    }
-    return PngEncoder::encode(*frame);
-}
-
-std::string GPSPlayerView::currentSpeedText() const {
-    const int64_t index = cursor_.curIndex();
-    if (gpsDataList_ && index >= 0 && static_cast<uint64_t>(index) < gpsDataList_->size()) {
-        return (*gpsDataList_)[static_cast<std::size_t>(index)].SpeedText();
-    }
-    return "00.00";
-}
-
-double GPSPlayerView::currentSeconds() const {
-    if (!mediaPlayer_ || !mediaPlayer_->hasItem()) return std::numeric_limits<double>::quiet_NaN();
-    return mediaPlayer_->currentTime().seconds();
-}
-
-void GPSPlayerView::showInSurface(MediaPlayer* player) {
-    if (surface_) surface_->setPlayer(player);
-}
+GPSPlayerView::~GPSPlayerView() = default;

@@ -1,5 +1,5 @@
-// The movie view as the main window builds it: mpv players, the surface this machine supports,
-// the shared settings. Kept apart so that tests link the view without relying on these.
+// The view as the main window builds it: mpv players, the surface this machine supports, the
+// shared settings. Kept apart so that tests link the view without relying on these.
 
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"

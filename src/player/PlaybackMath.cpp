@@ -14,7 +14,8 @@ float tenSecondShare(double duration) {
 }
 
 std::optional<MediaTime> seekTarget(double fraction, double duration) {
-    const double hundredths = fraction * duration * 100.0;
+    double hundredths = fraction * duration * 100.0;
+    if (hundredths < 0) hundredths = 0;
     if (!(hundredths >= -0x1p63 && hundredths < 0x1p63)) return std::nullopt;
     return MediaTime::make(static_cast<int64_t>(hundredths), 100);
 }

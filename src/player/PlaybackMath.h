@@ -13,6 +13,7 @@ double playbackProgress(double seconds, double duration);
 // The share of the movie that ten seconds make, narrowed to 32 bits; 0 when not finite.
 float tenSecondShare(double duration);
 
-// fraction x duration, truncated toward zero to whole hundredths of a second; nothing when the
-// product is not a number or does not fit 64 bits.
+// fraction x duration, truncated toward zero to whole hundredths of a second; a target before the
+// start is the start (mpv would count a negative time from the end). Nothing when the product is
+// not a number or does not fit 64 bits.
 std::optional<MediaTime> seekTarget(double fraction, double duration);

@@ -1,5 +1,5 @@
 #pragma once
-// The GPS track as the movie view keeps it: an empty sample before the first record, so that
+// The GPS track as the player engine keeps it: an empty sample before the first record, so that
 // position k is the sample shown from second k of the movie.
 
 #include "GPSData.h"

@@ -15,9 +15,11 @@ public:
     // lies inside a track of count samples. Reporting it makes it the current position.
     std::optional<uint64_t> advance(double seconds, uint64_t count);
 
-    // The last reported position; -1 right after a movie is set, 0 before the first one.
+    // The last reported position; -1 after restart, 0 before the first one.
     int64_t curIndex() const { return curIndex_; }
-    void setCurIndex(int64_t index) { curIndex_ = index; }
+    // A new movie: no position reported yet, so the next time inside the track is reported even
+    // when it names the previous movie's last position.
+    void restart() { curIndex_ = -1; }
 
 private:
     int64_t curIndex_ = 0;

@@ -1,5 +1,5 @@
 #pragma once
-// A repeating timer on the main loop. The movie view polls its player through one; tests fire it
+// A repeating timer on the main loop. The player engine polls its player through one; tests fire it
 // by hand so that no time has to pass.
 
 #include <chrono>

@@ -1,7 +1,5 @@
 #include "VolumeState.h"
 
-VolumeState::VolumeState(double storedVolume) : lastVolume_(storedVolume > 0 ? storedVolume : kFallbackVolume) {}
-
 void VolumeState::noteVolume(double volume) {
     if (volume > 0) lastVolume_ = volume;
 }

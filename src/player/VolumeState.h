@@ -1,21 +1,18 @@
 #pragma once
-// The volume and mute rules of the movie view. The user's volume survives muting and a volume of
+// The volume and mute rules of the player engine. The user's volume survives muting and a volume of
 // 0, so that unmuting always brings the sound back at a level the user chose.
 
 #include <optional>
 
 class VolumeState {
 public:
-    // Used when the stored volume is 0 (or not a positive number): silence is never restored.
+    // Restored until a volume above 0 is set: silence is never restored.
     static constexpr double kFallbackVolume = 0.6;
-
-    explicit VolumeState(double storedVolume = 0.0);
 
     bool isMuted() const { return isMuted_; }
     void setIsMuted(bool muted) { isMuted_ = muted; }
     // The last volume above 0 that was set; always above 0.
     double lastVolume() const { return lastVolume_; }
-    void setLastVolume(double volume) { lastVolume_ = volume; }
 
     // A new volume was chosen: remembered when it is above 0.
     void noteVolume(double volume);

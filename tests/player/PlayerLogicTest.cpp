@@ -1,4 +1,4 @@
-// The movie view's arithmetic, driven without a window: time-to-sample mapping, seek targets,
+// The player engine's arithmetic, driven without a window: time-to-sample mapping, seek targets,
 // progress, the track's lead-in and cap, and the snapshot colour rule.
 
 #include "PlaybackMath.h"
@@ -21,7 +21,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 TEST(TrackCursor, ReportsEachNewWholeSecondInsideTheTrackOnce) {
     constexpr uint64_t count = 4;  // a track of 3 records behind the empty sample
     TrackCursor cursor;
-    cursor.setCurIndex(-1);
+    cursor.restart();
     const struct {
         double seconds;
         std::optional<uint64_t> report;
@@ -52,7 +52,9 @@ TEST(PlaybackMath, SeekTargetsAreWholeHundredthsTowardZero) {
     } cases[] = {
         {0.5, 9.99, MediaTime::make(499, 100)},
         {1.0, 40.0, MediaTime::make(4000, 100)},
-        {-0.5, 9.99, MediaTime::make(-499, 100)},
+        {-0.5, 9.99, MediaTime::make(0, 100)},  // before the start is the start
+        {-0.01, 60.0, MediaTime::make(0, 100)},
+        {-1e300, 10.0, MediaTime::make(0, 100)},
         {0.5, kNaN, std::nullopt},
         {1e300, 10.0, std::nullopt},
     };

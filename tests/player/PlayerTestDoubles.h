@@ -1,7 +1,8 @@
 #pragma once
-// The other stand-ins of the movie view's tests: a timer fired by hand, a surface that records
+// The other stand-ins of the player engine's tests: a timer fired by hand, a surface that records
 // what it shows, and a delegate that records every report.
 
+#include "GPSPlayerEngine.h"
 #include "GPSPlayerViewDelegate.h"
 #include "MediaPlayer.h"
 #include "UpdateTimer.h"
@@ -34,7 +35,7 @@ private:
 
 class RecordingSurface final : public QWidget, public VideoSurface {
 public:
-    explicit RecordingSurface(QWidget* parent) : QWidget(parent) {}
+    explicit RecordingSurface(QWidget* parent = nullptr) : QWidget(parent) {}
     QWidget* widget() override { return this; }
     void setPlayer(MediaPlayer* player) override { shown.push_back(player); }
 
@@ -48,12 +49,12 @@ struct RecordingDelegate final : GPSPlayerViewDelegate {
     std::vector<bool> statuses;
     int completions = 0;
 
-    void UpdatedGPSInfo(GPSPlayerView&, const GPSData& data, uint64_t index) override {
+    void UpdatedGPSInfo(GPSPlayerEngine&, const GPSData& data, uint64_t index) override {
         samples.push_back(index);
         sampleSpeeds.push_back(data.SpeedMPH());
     }
-    void UpdateDuration(GPSPlayerView&, double value) override { progress.push_back(value); }
-    void UpdatedPlayingStatus(GPSPlayerView&, bool playing) override { statuses.push_back(playing); }
-    void Completed(GPSPlayerView&) override { ++completions; }
+    void UpdateDuration(GPSPlayerEngine&, double value) override { progress.push_back(value); }
+    void UpdatedPlayingStatus(GPSPlayerEngine&, bool playing) override { statuses.push_back(playing); }
+    void Completed(GPSPlayerEngine&) override { ++completions; }
     void clear() { *this = RecordingDelegate{}; }
 };

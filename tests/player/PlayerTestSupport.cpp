@@ -17,6 +17,18 @@ TempSettings::TempSettings() {
     if (file.open(QIODevice::WriteOnly)) file.write(kEmptySettings);
     file.close();
     SettingsLocation location;
-    location.userFile = path.toStdString();
+    location.userFile = QFile::encodeName(path).constData();
     utils_ = std::make_unique<GPSUtils>(location);
+}
+
+NonUtf8MovieCopy::NonUtf8MovieCopy(const std::filesystem::path& source) {
+    const std::filesystem::path copy =
+        std::filesystem::path(QFile::encodeName(dir_.path()).constData()) / ("clip-\xff" + source.extension().string());
+    std::error_code error;
+    if (std::filesystem::copy_file(source, copy, error)) path_ = copy;
+}
+
+NonUtf8MovieCopy::~NonUtf8MovieCopy() {
+    std::error_code error;
+    if (!path_.empty()) std::filesystem::remove(path_, error);
 }

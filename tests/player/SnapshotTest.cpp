@@ -49,11 +49,11 @@ protected:
         auto state = std::make_shared<FakePlayerState>();
         state->at(seconds);
         factory_->next = state;
-        view_.setMovie(file);
+        view_.engine().setMovie(file);
         return state;
     }
     QImage snapshotImage() {
-        const auto png = view_.snapshot();
+        const auto png = view_.engine().snapshot();
         return png ? QImage::fromData(png->data(), static_cast<int>(png->size()), "PNG") : QImage();
     }
     // The frame the ffmpeg program extracts at seconds; a null image when it gives none.
@@ -73,7 +73,7 @@ protected:
 
 TEST_F(SnapshotTest, FrameAtThePlayersTimeMatchesTheFfmpegProgram) {
     load(k720p, 12.5);
-    const auto png = view_.snapshot();
+    const auto png = view_.engine().snapshot();
     ASSERT_TRUE(png.has_value());
     ASSERT_GT(png->size(), 28u);
     EXPECT_EQ((*png)[28], 0) << "the header's interlace method";
@@ -106,11 +106,11 @@ TEST_F(SnapshotTest, OnlyAPausedOrPlayingPlayerGivesAFrame) {
     for (const auto& c : cases) {
         state->status = c.status;
         state->hasItem = c.hasItem;
-        EXPECT_EQ(view_.snapshot().has_value(), c.frame)
+        EXPECT_EQ(view_.engine().snapshot().has_value(), c.frame)
             << "status " << static_cast<int>(c.status) << " item " << c.hasItem;
     }
-    view_.Stop();
-    EXPECT_FALSE(view_.snapshot().has_value());
+    view_.engine().Stop();
+    EXPECT_FALSE(view_.engine().snapshot().has_value());
 }
 
 TEST_F(SnapshotTest, FilesWithoutPicturesGiveNothing) {
@@ -124,7 +124,7 @@ TEST_F(SnapshotTest, FilesWithoutPicturesGiveNothing) {
 
     for (const QString& path : {junk, sound, QString("/no/such/file.mov")}) {
         load(path.toStdString(), 0.5);
-        EXPECT_FALSE(view_.snapshot().has_value()) << path.toStdString();
+        EXPECT_FALSE(view_.engine().snapshot().has_value()) << path.toStdString();
     }
 }
 

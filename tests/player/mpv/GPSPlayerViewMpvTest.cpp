@@ -1,5 +1,5 @@
-// The movie view with the real mpv player and surface, on the fixture movies: what the main window
-// would see through the delegate.
+// The movie view and its engine with the real mpv player and surface, on the fixture movies: what
+// the main window would see through the delegate.
 
 #include "GPSPlayerView.h"
 #include "GPSPlayerViewDelegate.h"
@@ -9,6 +9,7 @@
 #include "QtUpdateTimer.h"
 #include "VideoSurfaceFactory.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -21,12 +22,12 @@ namespace {
 
 class RecordingDelegate final : public GPSPlayerViewDelegate {
 public:
-    void UpdatedGPSInfo(GPSPlayerView&, const GPSData& data, uint64_t index) override {
+    void UpdatedGPSInfo(GPSPlayerEngine&, const GPSData& data, uint64_t index) override {
         samples.emplace_back(index, data);
     }
-    void UpdateDuration(GPSPlayerView&, double value) override { progress.push_back(value); }
-    void UpdatedPlayingStatus(GPSPlayerView&, bool playing) override { statuses.push_back(playing); }
-    void Completed(GPSPlayerView&) override { ++completed; }
+    void UpdateDuration(GPSPlayerEngine&, double value) override { progress.push_back(value); }
+    void UpdatedPlayingStatus(GPSPlayerEngine&, bool playing) override { statuses.push_back(playing); }
+    void Completed(GPSPlayerEngine&) override { ++completed; }
 
     bool playing() const { return !statuses.empty() && statuses.back(); }
 
@@ -39,7 +40,7 @@ public:
 class GPSPlayerViewMpvTest : public ::testing::Test {
 protected:
     GPSPlayerViewMpvTest() {
-        view_.setDelegate(&delegate_);
+        engine_.setDelegate(&delegate_);
         view_.resize(320, 180);
         view_.show();
     }
@@ -47,17 +48,18 @@ protected:
     TempSettings settings_;
     GPSPlayerView view_{makeMediaPlayerFactory(), makeVideoSurface, std::make_unique<QtUpdateTimer>(),
                         settings_.utils()};
+    GPSPlayerEngine& engine_ = view_.engine();
     RecordingDelegate delegate_;
 };
 
 TEST_F(GPSPlayerViewMpvTest, PlaysAMovieReportingItsSamplesInOrderUpToTheEnd) {
-    view_.setMovie(fixtureMovie("index_mp4.mp4"));
-    ASSERT_TRUE(view_.IsReady());
-    EXPECT_NEAR(view_.duration(), 10.0, 0.1);
-    ASSERT_TRUE(view_.gpsDataList().has_value());
-    EXPECT_EQ(view_.gpsDataList()->size(), 11u);
+    engine_.setMovie(fixtureMovie("index_mp4.mp4"));
+    ASSERT_TRUE(engine_.IsReady());
+    EXPECT_NEAR(engine_.duration(), 10.0, 0.1);
+    ASSERT_TRUE(engine_.gpsDataList().has_value());
+    EXPECT_EQ(engine_.gpsDataList()->size(), 11u);
 
-    view_.Resume();
+    engine_.Resume();
     ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() >= 3; }));
     EXPECT_TRUE(delegate_.playing());
     // Position 0 is the empty sample; record k is row k + 1 of the fixture route, as precise as
@@ -83,45 +85,58 @@ TEST_F(GPSPlayerViewMpvTest, PlaysAMovieReportingItsSamplesInOrderUpToTheEnd) {
     EXPECT_LT(delegate_.progress.back(), 0.4);
 
     // Paused and moved, it reports nothing until it plays again, then the sample of the new place.
-    view_.Pause();
+    engine_.Pause();
     ASSERT_TRUE(runUntil([&] { return !delegate_.playing(); }));
-    view_.Seek(0.6);
+    engine_.Seek(0.6);
     runFor(30);
     const std::size_t reported = delegate_.samples.size();
-    EXPECT_FALSE(view_.IsPlaying());
-    view_.Resume();
+    EXPECT_FALSE(engine_.IsPlaying());
+    engine_.Resume();
     ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() > reported; }));
     EXPECT_EQ(delegate_.samples[reported].first, 6u);
 
     // To the end: playing stops, and every tick at rest there reports the end.
-    view_.Seek(0.9);
+    engine_.Seek(0.9);
     ASSERT_TRUE(runUntil([&] { return delegate_.completed >= 3; }));
     EXPECT_FALSE(delegate_.playing());
-    EXPECT_EQ(view_.mediaPlayer()->currentTime().seconds(), view_.duration());
+    EXPECT_EQ(engine_.mediaPlayer()->currentTime().seconds(), engine_.duration());
     EXPECT_GE(delegate_.samples.back().first, 9u);
 }
 
 TEST_F(GPSPlayerViewMpvTest, AMovieWithoutGPSPlaysWithoutSamples) {
-    view_.setMovie(fixtureMovie("nogps.mov"));
-    ASSERT_TRUE(view_.IsReady());
-    ASSERT_TRUE(view_.gpsDataList().has_value());
-    EXPECT_TRUE(view_.gpsDataList()->empty());
-    view_.Resume();
+    engine_.setMovie(fixtureMovie("nogps.mov"));
+    ASSERT_TRUE(engine_.IsReady());
+    ASSERT_TRUE(engine_.gpsDataList().has_value());
+    EXPECT_TRUE(engine_.gpsDataList()->empty());
+    engine_.Resume();
     ASSERT_TRUE(runUntil([&] { return !delegate_.progress.empty() && delegate_.progress.back() > 0.1; }));
     EXPECT_TRUE(delegate_.playing());
     EXPECT_TRUE(delegate_.samples.empty());
 }
 
+TEST_F(GPSPlayerViewMpvTest, AMovieWhoseNameIsNotUtf8PlaysWithItsTrack) {
+    const NonUtf8MovieCopy movie(fixtureMovie("index_mp4.mp4"));
+    ASSERT_FALSE(movie.path().empty());
+    engine_.setMovie(movie.path());
+    ASSERT_TRUE(engine_.IsReady());
+    ASSERT_TRUE(engine_.gpsDataList().has_value());
+    EXPECT_EQ(engine_.gpsDataList()->size(), 11u);
+    engine_.Resume();
+    ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() >= 2; }));
+    EXPECT_TRUE(delegate_.playing());
+    EXPECT_EQ(delegate_.samples[1].first, 1u);
+}
+
 TEST_F(GPSPlayerViewMpvTest, WhatIsNotAMovieLeavesTheViewEmpty) {
-    view_.setMovie(fixtureMovie("index_mp4.mp4"));
-    ASSERT_TRUE(view_.IsReady());
+    engine_.setMovie(fixtureMovie("index_mp4.mp4"));
+    ASSERT_TRUE(engine_.IsReady());
     QTemporaryDir dir;
-    const std::filesystem::path text = std::filesystem::path(dir.path().toStdString()) / "notes.mov";
+    const std::filesystem::path text = std::filesystem::path(QFile::encodeName(dir.path()).constData()) / "notes.mov";
     std::ofstream(text) << "not a movie\n";
-    view_.setMovie(text);
-    EXPECT_FALSE(view_.IsReady());
+    engine_.setMovie(text);
+    EXPECT_FALSE(engine_.IsReady());
     EXPECT_FALSE(delegate_.playing());
-    view_.Resume();
+    engine_.Resume();
     runFor(30);
     EXPECT_TRUE(delegate_.progress.empty());
     EXPECT_TRUE(delegate_.samples.empty());

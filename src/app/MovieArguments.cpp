@@ -1,0 +1,17 @@
+#include "MovieArguments.h"
+
+#include <cstring>
+
+std::vector<std::filesystem::path> movieArguments(int argc, char** argv) {
+    std::vector<std::filesystem::path> movies;
+    bool optionsEnded = false;
+    for (int i = 1; i < argc && argv[i] != nullptr; ++i) {
+        const char* argument = argv[i];
+        if (!optionsEnded && std::strcmp(argument, "--") == 0) {
+            optionsEnded = true;
+        } else if (optionsEnded || argument[0] != '-' || argument[1] == '\0') {
+            movies.emplace_back(argument);
+        }
+    }
+    return movies;
+}

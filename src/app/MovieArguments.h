@@ -1,0 +1,10 @@
+#pragma once
+// The movie files named on the command line, as the bytes given: a Linux file name need not be
+// valid UTF-8, and a trip through QString would replace what is not.
+
+#include <filesystem>
+#include <vector>
+
+// argv after QApplication has taken out its own options. Our options take no values, so every
+// argument that is not an option names a movie; after "--" all of them do.
+std::vector<std::filesystem::path> movieArguments(int argc, char** argv);

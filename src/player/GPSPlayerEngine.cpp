@@ -1,0 +1,196 @@
+#include "GPSPlayerEngine.h"
+
+#include "FrameGrabber.h"
+#include "GPSDataLoader.h"
+#include "GPSUtils.h"
+#include "PlaybackMath.h"
+#include "PlayerTrack.h"
+#include "PngEncoder.h"
+#include "QtUpdateTimer.h"
+
+#include <QByteArray>
+#include <QLoggingCategory>
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+// Quiet unless QT_LOGGING_RULES asks: a file that will not play is no news to print.
+Q_LOGGING_CATEGORY(lcPlayerEngine, "dashtrack.player", QtWarningMsg)
+
+namespace {
+constexpr std::chrono::milliseconds kTickInterval{100};
+}
+
+GPSPlayerEngine::GPSPlayerEngine(std::shared_ptr<MediaPlayerFactory> playerFactory, VideoSurface* surface,
+                                 std::unique_ptr<UpdateTimer> updateTimer, GPSUtils& settings, QObject* parent)
+    : QObject(parent),
+      playerFactory_(std::move(playerFactory)),
+      surface_(surface),
+      updateTimer_(updateTimer ? std::move(updateTimer) : std::make_unique<QtUpdateTimer>()),
+      settings_(settings) {
+    // The stored volume goes through setVolume like any other, which writes it back; a stored 0
+    // leaves the fallback as the volume unmuting restores.
+    setVolume(settings_.volume());
+}
+
+GPSPlayerEngine::~GPSPlayerEngine() {
+    StopTimer();
+    // The surface must let go of the players before they are destroyed.
+    showInSurface(nullptr);
+}
+
+bool GPSPlayerEngine::IsPlaying() const {
+    return mediaPlayer_ && mediaPlayer_->timeControlStatus() == PlayerStatus::Playing;
+}
+
+float GPSPlayerEngine::speed() const { return mediaPlayer_ ? mediaPlayer_->rate() : 1.0f; }
+
+void GPSPlayerEngine::setSpeed(float speed) {
+    if (mediaPlayer_) mediaPlayer_->setRate(speed);
+}
+
+float GPSPlayerEngine::maxSpeed() const { return std::max(speedMax_, GPSUtils::defaultMaxSpeed()); }
+
+float GPSPlayerEngine::seekUnit() const { return mediaPlayer_ ? tenSecondShare(duration_) : 0.0f; }
+
+void GPSPlayerEngine::setMuted(bool muted) {
+    volume_.setIsMuted(muted);
+    if (!mediaPlayer_) return;
+    mediaPlayer_->setMuted(muted);
+    if (const auto restored = volume_.volumeOnMute(muted, mediaPlayer_->volume())) {
+        mediaPlayer_->setVolume(*restored);
+    }
+}
+
+void GPSPlayerEngine::setVolume(double volume) {
+    volume_.noteVolume(volume);
+    settings_.setVolume(static_cast<float>(volume));
+    if (mediaPlayer_) mediaPlayer_->setVolume(static_cast<float>(volume));
+}
+
+void GPSPlayerEngine::setMovie(const std::filesystem::path& url) {
+    Stop();
+    fileURL_ = url;
+    mediaPlayer_ = playerFactory_ ? playerFactory_->playerWithURL(url) : nullptr;
+    if (!mediaPlayer_) {
+        qCDebug(lcPlayerEngine) << "no player for" << QByteArray(url.c_str());
+        return;
+    }
+    mediaPlayer_->setVolume(static_cast<float>(volume_.lastVolume()));
+    mediaPlayer_->setMuted(volume_.isMuted());
+    duration_ = mediaPlayer_->duration().seconds();
+    cursor_.restart();
+    showInSurface(mediaPlayer_.get());
+    shownEmptyPlayer_.reset();
+
+    float loaderMax = 0;
+    std::vector<GPSData> records = GPSDataLoader::LoadGPSDataList(url, &loaderMax);
+    PlayerTrack track = PlayerTrack::fromLoaded(std::move(records), loaderMax);
+    gpsDataList_ = std::move(track.samples);
+    speedMax_ = track.speedMax;
+    StartTimer();
+}
+
+void GPSPlayerEngine::Resume() {
+    if (mediaPlayer_ && mediaPlayer_->timeControlStatus() != PlayerStatus::Playing) {
+        mediaPlayer_->play();
+    }
+}
+
+void GPSPlayerEngine::Pause() {
+    if (mediaPlayer_ && mediaPlayer_->timeControlStatus() == PlayerStatus::Playing) {
+        mediaPlayer_->pause();
+    }
+}
+
+void GPSPlayerEngine::Stop() {
+    if (mediaPlayer_) {
+        mediaPlayer_->pause();
+        // The empty player blanks the picture before the movie's player goes away.
+        std::unique_ptr<MediaPlayer> empty = playerFactory_ ? playerFactory_->emptyPlayer() : nullptr;
+        showInSurface(empty.get());
+        StopTimer();
+        mediaPlayer_.reset();
+        shownEmptyPlayer_ = std::move(empty);
+    }
+    if (delegate_) delegate_->UpdatedPlayingStatus(*this, false);
+}
+
+void GPSPlayerEngine::Seek(double fraction) {
+    if (!mediaPlayer_) return;
+    if (const auto target = seekTarget(fraction, duration_)) mediaPlayer_->seek(*target);
+}
+
+void GPSPlayerEngine::StartTimer() {
+    StopTimer();
+    // Not a status a fresh player has, so the first tick reports the player's status.
+    prevStatus_ = static_cast<int64_t>(PlayerStatus::Waiting);
+    // Each firing only posts the tick: it runs in a later turn of the event loop, never inside
+    // the timer's callback, and one posted before Stop still runs after it.
+    updateTimer_->start(kTickInterval, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { tick(); }, Qt::QueuedConnection);
+    });
+}
+
+void GPSPlayerEngine::StopTimer() {
+    if (updateTimer_->isActive()) updateTimer_->stop();
+}
+
+void GPSPlayerEngine::tick() {
+    const PlayerStatus status = mediaPlayer_ ? mediaPlayer_->timeControlStatus() : PlayerStatus::Paused;
+    if (static_cast<int64_t>(status) != prevStatus_) {
+        prevStatus_ = static_cast<int64_t>(status);
+        if (delegate_) delegate_->UpdatedPlayingStatus(*this, status == PlayerStatus::Playing);
+    }
+    if (mediaPlayer_ && status == PlayerStatus::Playing) {
+        update();
+        return;
+    }
+    // Exact equality: a movie at rest on its last frame stands at its duration. Not-a-number (no
+    // player) never equals.
+    if (currentSeconds() == duration_ && delegate_) delegate_->Completed(*this);
+}
+
+void GPSPlayerEngine::update() {
+    if (!mediaPlayer_) return;
+    const double t = currentSeconds();
+    const uint64_t count = gpsDataList_ ? gpsDataList_->size() : 0;
+    if (const auto index = cursor_.advance(t, count)) {
+        // A copy: the receiver may load another movie, which replaces the track.
+        const GPSData sample = (*gpsDataList_)[*index];
+        if (delegate_) delegate_->UpdatedGPSInfo(*this, sample, *index);
+    }
+    if (delegate_) delegate_->UpdateDuration(*this, playbackProgress(t, duration_));
+}
+
+std::optional<std::vector<uint8_t>> GPSPlayerEngine::snapshot() const {
+    if (!mediaPlayer_ || mediaPlayer_->timeControlStatus() == PlayerStatus::Waiting || !fileURL_) {
+        return std::nullopt;
+    }
+    const MediaTime at = mediaPlayer_->hasItem() ? mediaPlayer_->currentTime() : MediaTime{};
+    const std::optional<RgbImage> frame = FrameGrabber::frameAt(*fileURL_, at);
+    if (!frame) {
+        qCDebug(lcPlayerEngine) << "no frame at" << at.seconds() << "in" << QByteArray(fileURL_->c_str());
+        return std::nullopt;
+    }
+    return PngEncoder::encode(*frame);
+}
+
+std::string GPSPlayerEngine::currentSpeedText() const {
+    const int64_t index = cursor_.curIndex();
+    if (gpsDataList_ && index >= 0 && static_cast<uint64_t>(index) < gpsDataList_->size()) {
+        return (*gpsDataList_)[static_cast<std::size_t>(index)].SpeedText();
+    }
+    return "00.00";
+}
+
+double GPSPlayerEngine::currentSeconds() const {
+    if (!mediaPlayer_ || !mediaPlayer_->hasItem()) return std::numeric_limits<double>::quiet_NaN();
+    return mediaPlayer_->currentTime().seconds();
+}
+
+void GPSPlayerEngine::showInSurface(MediaPlayer* player) {
+    if (surface_) surface_->setPlayer(player);
+}
