@@ -281,6 +281,7 @@ TEST_F(GPSPlayerEngineTest, SetVolumeStoresEveryVolumeAndRemembersThoseAboveZero
 
 TEST_F(GPSPlayerEngineTest, VolumeZeroSilencesAndUnmutingRestores) {
     engine_->setVolume(0.4);
+    ASSERT_EQ(settings_.utils().volume(), 0.4f) << "so that storing 0 below is seen";
     const auto state = load();
     EXPECT_EQ(state->volume, 0.4f);
 
