@@ -9,6 +9,8 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QString>
+#include <QtGlobal>
 
 #include <gtest/gtest.h>
 
@@ -136,6 +138,24 @@ TEST_F(GPSPlayerEngineTest, UnplayableFileLeavesTheEngineEmptyWithTheOldTrack) {
     EXPECT_NEAR(engine_->speedMax(), 120.0f, 0.01);
     EXPECT_NEAR(engine_->maxSpeed(), 120.0f, 0.01);
     EXPECT_EQ(engine_->fileURL(), std::filesystem::path("/no/such/movie.mov"));
+}
+
+// Every message Qt would print while the handler is installed.
+std::vector<QString>* capturedMessages = nullptr;
+void captureMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+    if (capturedMessages) capturedMessages->push_back(message);
+}
+
+TEST_F(GPSPlayerEngineTest, AFileThatWillNotPlayPrintsNothing) {
+    if (qEnvironmentVariableIsSet("QT_LOGGING_RULES")) GTEST_SKIP() << "QT_LOGGING_RULES decides what prints";
+    std::vector<QString> messages;
+    capturedMessages = &messages;
+    const QtMessageHandler previous = qInstallMessageHandler(captureMessage);
+    factory_->next = nullptr;
+    engine_->setMovie("/no/such/movie.mov");
+    qInstallMessageHandler(previous);
+    capturedMessages = nullptr;
+    EXPECT_TRUE(messages.empty()) << (messages.empty() ? std::string() : messages.front().toStdString());
 }
 
 TEST_F(GPSPlayerEngineTest, NameThatIsNotUtf8LoadsItsTrack) {
