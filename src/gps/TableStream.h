@@ -1,0 +1,33 @@
+#pragma once
+// Walks a table of big-endian u32 entries in a file through one fixed-size buffer, so that a
+// table whose count claims gigabytes never costs more memory than the buffer.
+
+#include "SeekableFile.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+class TableStream {
+public:
+    // entries: how many entries to walk at most; entryBytes: the stride, whose first 4 bytes are
+    // the value (4 for a chunk offset table, 8 for the GPS index).
+    TableStream(SeekableFile& file, uint64_t start, uint64_t entries, std::size_t entryBytes);
+
+    // The next entry's value; absent past the last entry or when the file ends early.
+    std::optional<uint32_t> next();
+
+    static constexpr std::size_t kBufferBytes = 64 * 1024;
+
+private:
+    bool refill();
+
+    SeekableFile& file_;
+    uint64_t nextOffset_;   // file offset of the first byte not yet buffered
+    uint64_t remaining_;    // entries not yet handed out
+    std::size_t entryBytes_;
+    std::array<uint8_t, kBufferBytes> buffer_;
+    std::size_t filled_ = 0;
+    std::size_t cursor_ = 0;
+};
