@@ -42,24 +42,31 @@ public:
 
     // Reads the 92-byte block at offset; a block that fails the header test or that the file does
     // not hold in full is skipped.
-    void addBlockAt(uint64_t offset, bool isMP4) {
+    // True when the block was accepted.
+    bool addBlockAt(uint64_t offset, bool isMP4) {
         const std::optional<GPSDATA> raw = blocks_.recordAt(offset);
-        if (!raw) return;
+        if (!raw) return false;
         GPSData sample;
         sample.SetData(*raw, isMP4);
         max_ = std::max(max_, double(sample.data().rmcinfo.Speed));
         track_.formCounts[std::size_t(GPSData::formOf(*raw, isMP4))]++;
         track_.samples.push_back(sample);
+        return true;
     }
 
     bool full() const { return track_.samples.size() >= GPSDataLoader::kMaxTrackSamples; }
 
     // Adds the block at every offset the table yields, until the table or the track's room ends.
     void addBlocksFrom(TableStream& table, uint64_t distance, bool isMP4) {
-        while (!full()) {
-            const std::optional<uint32_t> offset = table.next();
-            if (!offset) return;
-            addBlockAt(uint64_t(*offset) + distance, isMP4);
+        const std::size_t stride = table.entryBytes();
+        for (std::span<const uint8_t> run = table.nextRun(); !run.empty(); run = table.nextRun()) {
+            for (std::size_t at = 0; at < run.size(); at += stride) {
+                const uint64_t offset = uint64_t(readU32BE(run.data() + at)) + distance;
+                // A table that names one place over and over must cost next to nothing per entry.
+                if (offset == lastRejected_) continue;
+                if (!addBlockAt(offset, isMP4)) lastRejected_ = offset;
+                if (full()) return;
+            }
         }
     }
 
@@ -69,6 +76,7 @@ private:
     GPSBlockReader blocks_;
     GPSTrack& track_;
     double max_ = 0.0;
+    uint64_t lastRejected_ = UINT64_MAX;  // no block lies there: table offsets are 32-bit
 };
 
 void readIndexLayout(SeekableFile& file, FileRange gps, bool isMP4, TrackBuilder& builder) {

@@ -1,19 +1,18 @@
 #include "TableStream.h"
 
-#include "BigEndian.h"
-
 #include <algorithm>
 
 TableStream::TableStream(SeekableFile& file, uint64_t start, uint64_t entries, std::size_t entryBytes)
     : file_(file), nextOffset_(start), remaining_(entries), entryBytes_(entryBytes) {}
 
-std::optional<uint32_t> TableStream::next() {
-    if (remaining_ == 0) return std::nullopt;
-    if (filled_ - cursor_ < entryBytes_ && !refill()) return std::nullopt;
-    const uint32_t value = readU32BE(buffer_.data() + cursor_);
-    cursor_ += entryBytes_;
-    --remaining_;
-    return value;
+std::span<const uint8_t> TableStream::nextRun() {
+    if (remaining_ == 0) return {};
+    if (filled_ - cursor_ < entryBytes_ && !refill()) return {};
+    const std::size_t entries = std::size_t(std::min<uint64_t>((filled_ - cursor_) / entryBytes_, remaining_));
+    const std::span<const uint8_t> run(buffer_.data() + cursor_, entries * entryBytes_);
+    cursor_ += run.size();
+    remaining_ -= entries;
+    return run;
 }
 
 bool TableStream::refill() {

@@ -7,7 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <span>
 
 class TableStream {
 public:
@@ -15,8 +15,11 @@ public:
     // the value (4 for a chunk offset table, 8 for the GPS index).
     TableStream(SeekableFile& file, uint64_t start, uint64_t entries, std::size_t entryBytes);
 
-    // The next entry's value; absent past the last entry or when the file ends early.
-    std::optional<uint32_t> next();
+    // The next run of whole entries as they stand in the file (value first, big-endian); empty
+    // past the last entry or when the file ends early. Runs are walked in place, which keeps
+    // billions of entries fast.
+    std::span<const uint8_t> nextRun();
+    std::size_t entryBytes() const { return entryBytes_; }
 
     static constexpr std::size_t kBufferBytes = 64 * 1024;
 
