@@ -1,6 +1,7 @@
 // Writes a hostile movie: a few hundred real bytes in a sparse 2 GiB file whose GPS index (or
 // whose sound track's chunk table) claims about 2 GiB of entries and a count of 0xFFFFFFFF.
-// Usage: dashtrack-hostile-movie index|stco FILE
+// Usage: dashtrack-hostile-movie index|stco FILE [--head-only]
+// --head-only writes just the real bytes, without the hole: a small seed for the fuzzer.
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -77,8 +78,10 @@ Bytes stcoVariant() {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3 || (std::string(argv[1]) != "index" && std::string(argv[1]) != "stco")) {
-        std::fprintf(stderr, "usage: %s index|stco FILE\n", argc > 0 ? argv[0] : "dashtrack-hostile-movie");
+    const bool headOnly = argc == 4 && std::string(argv[3]) == "--head-only";
+    if ((argc != 3 && !headOnly) || (std::string(argv[1]) != "index" && std::string(argv[1]) != "stco")) {
+        std::fprintf(stderr, "usage: %s index|stco FILE [--head-only]\n",
+                     argc > 0 ? argv[0] : "dashtrack-hostile-movie");
         return 2;
     }
     const Bytes head = std::string(argv[1]) == "index" ? indexVariant() : stcoVariant();
@@ -87,7 +90,8 @@ int main(int argc, char** argv) {
         std::perror(argv[2]);
         return 1;
     }
-    const bool ok = ::write(fd, head.data(), head.size()) == ssize_t(head.size()) && ::ftruncate(fd, off_t(kFileSize)) == 0;
+    const bool ok = ::write(fd, head.data(), head.size()) == ssize_t(head.size()) &&
+                    (headOnly || ::ftruncate(fd, off_t(kFileSize)) == 0);
     if (!ok) std::perror(argv[2]);
     ::close(fd);
     return ok ? 0 : 1;
