@@ -5,8 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <atomic>
+#include <cstdlib>
 #include <future>
 #include <mutex>
 
@@ -147,6 +150,23 @@ TEST_F(SettingsWrites, FileIsReplacedWholeByRename) {
     EXPECT_NE(contents.find("<string>night</string>"), std::string::npos);
     EXPECT_NE(contents.find("<key>UnitType</key>"), std::string::npos);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.path()), {}), 1);
+}
+
+TEST_F(SettingsWrites, SharedInstanceWritesItsLastChangeWhenTheProgramExits) {
+    const auto config = directory / "config";
+    writeFile(config / "dashtrack" / "Env.plist", plistDictionary("<key>Volume</key><real>0</real>"));
+    // A child process of its own, so the shared instance is fresh and its exit is real.
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        ::setenv("XDG_CONFIG_HOME", config.c_str(), 1);
+        GPSUtils::sharedUtils().setVolume(0.75f);
+        std::exit(0);  // no flush: exit must write it
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(GPSUtils({.userFile = config / "dashtrack" / "Env.plist", .shippedFile = {}}).volume(), 0.75f);
 }
 
 }  // namespace
