@@ -31,6 +31,8 @@ private:
     uint64_t remaining_;    // entries not yet handed out
     std::size_t entryBytes_;
     std::array<uint8_t, kBufferBytes> buffer_;
+    const uint8_t* source_ = nullptr;  // buffer_, or zeros for a stretch of the file known to be a hole
     std::size_t filled_ = 0;
     std::size_t cursor_ = 0;
+    uint64_t zerosAhead_ = 0;  // bytes from nextOffset_ on that the file said are a hole
 };

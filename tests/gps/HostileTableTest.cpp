@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <map>
 #include <string_view>
 
@@ -152,6 +154,34 @@ TEST(HostileTableTest, ChunkTableStopsAtItsOwnBox) {
     const Bytes movie = concat({ftyp(20), box("mdat", media), box("moov", sound), u32Pattern({chunkAt})});
     MemoryFile file(movie);
     EXPECT_EQ(GPSDataLoader::LoadTrack(file).samples.size(), 2u);
+}
+
+// The same hostile chunk table as a sparse file on disk and as bytes in memory: the hole, which
+// the loader hands out as zeros without reading, must load exactly like the zeros it stands for.
+TEST(HostileTableTest, SparseFileLoadsLikeTheBytesItHolds) {
+    const auto path = std::filesystem::temp_directory_path() / "dashtrack-hostile-sparse.mov";
+    for (const bool validBlock : {true, false}) {
+        SCOPED_TRACE(validBlock);
+        constexpr uint64_t fileSize = 16 * kMiB;
+        Bytes bytes = chunkTableHead(2 * kGiB);
+        bytes.resize(fileSize, 0);
+        // Zero chunk offsets put every block at 32768, right after the sound format's second.
+        const Bytes block = gpsBlock(fixedPointRecord(10000000, 1142500000, 1000), validBlock ? 0 : 0x4C);
+        std::copy(block.begin(), block.end(), bytes.begin() + 32768);
+        {
+            std::ofstream out(path, std::ios::binary | std::ios::trunc);
+            out.write(reinterpret_cast<const char*>(bytes.data()), std::streamsize(32768 + block.size()));
+        }
+        std::filesystem::resize_file(path, fileSize);  // the rest is a hole
+
+        const GPSTrack fromDisk = GPSDataLoader::LoadTrack(path);
+        MemoryFile memory(bytes);
+        const GPSTrack fromMemory = GPSDataLoader::LoadTrack(memory);
+        EXPECT_EQ(fromDisk.samples.size(), validBlock ? GPSDataLoader::kMaxTrackSamples : 0u);
+        EXPECT_EQ(fromDisk.samples.size(), fromMemory.samples.size());
+        EXPECT_EQ(fromDisk.maxSpeed, fromMemory.maxSpeed);
+    }
+    std::filesystem::remove(path);
 }
 
 }  // namespace
