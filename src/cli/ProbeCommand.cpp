@@ -2,7 +2,7 @@
 
 #include "Diagnostics.h"
 #include "GPSDataLoader.h"
-#include "FFmpegVideoTrackProbe.h"
+#include "MovieProbeLibrary.h"
 
 #include <ostream>
 #include <string>
@@ -54,9 +54,14 @@ std::string describeTrack(const GPSTrack& track) {
 }  // namespace
 
 int runProbe(const Invocation& invocation, std::ostream& out, std::ostream& err) {
-    // Made directly rather than through the shared settings object, so that probing never reads
+    // Loaded directly rather than through the shared settings object, so that probing never reads
     // or creates the user's settings file.
-    const auto videoProbe = defaultVideoTrackProbe();
+    std::string loadError;
+    const auto videoProbe = MovieProbeLibrary::load(loadError);
+    if (!videoProbe) {
+        err << "dashtrack-gps: probe: " << loadError << '\n';
+        return kExitFileError;
+    }
     int status = kExitSuccess;
     for (const std::string& file : invocation.files) {
         const GPSTrack track = GPSDataLoader::LoadTrack(file);

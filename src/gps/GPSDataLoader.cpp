@@ -1,6 +1,8 @@
 #include "GPSDataLoader.h"
 
 #include "BigEndian.h"
+#include "GPSBlockReader.h"
+#include "TableStream.h"
 
 #include <algorithm>
 #include <array>
@@ -26,52 +28,68 @@ std::optional<std::vector<uint8_t>> readExactly(SeekableFile& file, uint64_t n) 
     return bytes;
 }
 
-// Reads up to n bytes, fewer at the end of the file.
-std::vector<uint8_t> readUpTo(SeekableFile& file, uint64_t n) {
-    const uint64_t available = file.size() > file.position() ? file.size() - file.position() : 0;
-    std::vector<uint8_t> bytes(std::min(n, available));
-    bytes.resize(file.read(bytes));
-    return bytes;
+// Entries of `entryBytes` each that fit both in `payload` bytes from `start` and in the file:
+// counts read from files are not trusted.
+uint64_t entriesHeld(const SeekableFile& file, uint64_t start, uint64_t payload, uint64_t entryBytes) {
+    const uint64_t inFile = file.size() > start ? file.size() - start : 0;
+    return std::min(payload, inFile) / entryBytes;
 }
 
-// Accumulates accepted samples and the largest stored speed.
+// Accumulates accepted samples and the largest stored speed, up to a ceiling on the track's size.
 class TrackBuilder {
 public:
-    explicit TrackBuilder(GPSTrack& track) : track_(track) {}
+    TrackBuilder(SeekableFile& file, GPSTrack& track) : blocks_(file), track_(track) {}
 
     // Reads the 92-byte block at offset; a block that fails the header test or that the file does
     // not hold in full is skipped.
-    void addBlockAt(SeekableFile& file, uint64_t offset, bool isMP4) {
-        file.seek(offset);
-        std::array<uint8_t, kGPSBlockSize> block;
-        if (file.read(block) != block.size()) return;
-        if (!GPSDataLoader::isGPSData(block.data())) return;
-
-        const GPSDATA raw =
-            decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block.data() + kGPSHeaderSize, kGPSRecordSize));
+    // True when the block was accepted.
+    bool addBlockAt(uint64_t offset, bool isMP4) {
+        const std::optional<GPSDATA> raw = blocks_.recordAt(offset);
+        if (!raw) return false;
         GPSData sample;
-        sample.SetData(raw, isMP4);
+        sample.SetData(*raw, isMP4);
         max_ = std::max(max_, double(sample.data().rmcinfo.Speed));
-        track_.formCounts[std::size_t(GPSData::formOf(raw, isMP4))]++;
+        track_.formCounts[std::size_t(GPSData::formOf(*raw, isMP4))]++;
         track_.samples.push_back(sample);
+        return true;
+    }
+
+    bool full() const { return track_.samples.size() >= GPSDataLoader::kMaxTrackSamples; }
+
+    // Adds the block at every offset the table yields, until the table or the track's room ends.
+    void addBlocksFrom(TableStream& table, uint64_t distance, bool isMP4) {
+        const std::size_t stride = table.entryBytes();
+        for (std::span<const uint8_t> run = table.nextRun(); !run.empty(); run = table.nextRun()) {
+            for (std::size_t at = 0; at < run.size(); at += stride) {
+                const uint64_t offset = uint64_t(readU32BE(run.data() + at)) + distance;
+                // A table that names one place over and over must cost next to nothing per entry.
+                if (offset == lastRejected_) continue;
+                if (!addBlockAt(offset, isMP4)) lastRejected_ = offset;
+                if (full()) return;
+            }
+        }
     }
 
     double max() const { return max_; }
 
 private:
+    GPSBlockReader blocks_;
     GPSTrack& track_;
     double max_ = 0.0;
+    uint64_t lastRejected_ = UINT64_MAX;  // no block lies there: table offsets are 32-bit
 };
 
 void readIndexLayout(SeekableFile& file, FileRange gps, bool isMP4, TrackBuilder& builder) {
+    constexpr uint64_t headerBytes = 8;  // a word nobody reads, then the entry count
+    constexpr uint64_t entryBytes = 8;   // the block offset, then a word nobody reads
     file.seek(gps.location);
-    const std::vector<uint8_t> index = readUpTo(file, gps.length);
-    if (index.size() < 8) return;
-    const uint32_t entryCount = readU32BE(index.data() + 4);
+    const auto header = readExactly(file, std::min(headerBytes, gps.length));
+    if (!header || header->size() < headerBytes) return;
+    const uint32_t entryCount = readU32BE(header->data() + 4);
     // Stop at the entries the index actually holds, whatever its count claims.
-    const uint64_t entriesHeld = (index.size() - 8) / 8;
-    const uint64_t entries = std::min<uint64_t>(entryCount, entriesHeld);
-    for (uint64_t i = 0; i < entries; ++i) builder.addBlockAt(file, readU32BE(index.data() + 8 + 8 * i), isMP4);
+    const uint64_t held = entriesHeld(file, gps.location + headerBytes, gps.length - headerBytes, entryBytes);
+    TableStream table(file, gps.location + headerBytes, std::min<uint64_t>(entryCount, held), entryBytes);
+    builder.addBlocksFrom(table, 0, isMP4);
 }
 
 // The byte distance from a sound chunk's start to its GPS block: one second of sound rounded up
@@ -146,14 +164,16 @@ void readSoundChunkLayout(SeekableFile& file, uint64_t moovLocation, TrackBuilde
     if (!stco.found()) return;
     track.layout = GPSLayout::SoundChunk;
     file.seek(stco.location);
-    const auto head = readExactly(file, 8);
+    constexpr uint64_t headerBytes = 8;  // version and flags, then the entry count
+    constexpr uint64_t entryBytes = 4;
+    const auto head = readExactly(file, headerBytes);
     if (!head) return;
     const uint32_t entryCount = readU32BE(head->data() + 4);
-    // The table as far as the file holds it.
-    const std::vector<uint8_t> table = readUpTo(file, uint64_t(entryCount) * 4);
-    const uint64_t entries = table.size() / 4;
-    for (uint64_t i = 0; i < entries; ++i)
-        builder.addBlockAt(file, uint64_t(readU32BE(table.data() + 4 * i)) + gpsOffset, false);
+    // The table as far as both its box and the file hold it.
+    const uint64_t payload = stco.length > headerBytes ? stco.length - headerBytes : 0;
+    const uint64_t held = entriesHeld(file, stco.location + headerBytes, payload, entryBytes);
+    TableStream table(file, stco.location + headerBytes, std::min<uint64_t>(entryCount, held), entryBytes);
+    builder.addBlocksFrom(table, gpsOffset, false);
 }
 
 }  // namespace
@@ -175,7 +195,7 @@ bool GPSDataLoader::isGPSData(const uint8_t* header) {
 GPSTrack GPSDataLoader::LoadTrack(SeekableFile& file) {
     GPSTrack track;
     track.opened = true;
-    TrackBuilder builder(track);
+    TrackBuilder builder(file, track);
 
     const FileRange ftyp = loadBox("ftyp", file, 0);
     track.isMP4 = IsMP4(file, ftyp);

@@ -32,6 +32,10 @@ class GPSDataLoader {
 public:
     GPSDataLoader() = delete;
 
+    // A track never holds more samples than this: 72 hours at one a second, far beyond any
+    // recording, yet a table whose entries all name one valid block cannot exhaust memory.
+    static constexpr std::size_t kMaxTrackSamples = std::size_t(1) << 18;
+
     // Scans sibling boxes from offset for a box typed name (case-sensitive). On a match the file
     // stands at the payload. A box smaller than 8 bytes ends the scan, found or not.
     static FileRange loadBox(std::string_view name, SeekableFile& file, uint64_t offset);

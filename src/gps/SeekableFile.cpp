@@ -49,6 +49,14 @@ std::size_t PosixFile::readAt(uint64_t offset, std::span<uint8_t> buffer) {
     return done;
 }
 
+uint64_t PosixFile::zeroBytesAt(uint64_t offset) const {
+    if (offset >= size_) return 0;
+    // The next byte of data at or after offset; a file system that cannot tell answers offset.
+    const off_t data = ::lseek(fd_, off_t(offset), SEEK_DATA);
+    if (data < 0) return errno == ENXIO ? size_ - offset : 0;
+    return std::min(uint64_t(data), size_) - offset;
+}
+
 std::size_t MemoryFile::readAt(uint64_t offset, std::span<uint8_t> buffer) {
     if (offset >= bytes_.size()) return 0;
     const std::size_t n = std::min<uint64_t>(buffer.size(), bytes_.size() - offset);

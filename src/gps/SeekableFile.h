@@ -18,6 +18,9 @@ public:
     // Reads up to buffer.size() bytes at the position and advances it; returns how many arrived.
     std::size_t read(std::span<uint8_t> buffer);
     virtual uint64_t size() const = 0;
+    // How many bytes from offset on are known to be zeros without reading them (a hole of a
+    // sparse file); 0 when unknown.
+    virtual uint64_t zeroBytesAt(uint64_t) const { return 0; }
 
 protected:
     virtual std::size_t readAt(uint64_t offset, std::span<uint8_t> buffer) = 0;
@@ -36,6 +39,7 @@ public:
     PosixFile& operator=(const PosixFile&) = delete;
 
     uint64_t size() const override { return size_; }
+    uint64_t zeroBytesAt(uint64_t offset) const override;
 
     // Only open() makes one: it owns a descriptor that is known to be an open regular file.
     class Key {

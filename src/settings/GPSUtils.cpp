@@ -21,8 +21,9 @@ GPSUtils& GPSUtils::sharedUtils() {
     return utils;
 }
 
-GPSUtils::GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe)
-    : settings_(SettingsFile::load(location)), probe_(std::move(probe)) {}
+GPSUtils::GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe,
+                   SettingsWriter::WriteFile write)
+    : settings_(SettingsFile::load(location, std::move(write))), probe_(std::move(probe)) {}
 
 uint64_t GPSUtils::unitType() const { return settings_.unsignedValue(unitTypeKey).value_or(0); }
 
@@ -30,7 +31,12 @@ void GPSUtils::setUnitType(uint64_t unitType) { settings_.setUnsignedValue(unitT
 
 float GPSUtils::volume() const { return static_cast<float>(settings_.realValue(volumeKey).value_or(0.0)); }
 
-void GPSUtils::setVolume(float volume) { settings_.setRealValue(volumeKey, volume); }
+void GPSUtils::setVolume(float volume) {
+    // Compared as the getter sees it: the file may hold the number with more digits than a float.
+    const std::optional<double> stored = settings_.realValue(volumeKey);
+    if (stored && static_cast<float>(*stored) == volume) return;
+    settings_.setRealValue(volumeKey, volume);
+}
 
 std::string GPSUtils::SpeedUnitName() const { return unitType() != 0 ? SpeedUnitNameKMH() : SpeedUnitNameMPH(); }
 

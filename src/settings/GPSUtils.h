@@ -18,14 +18,20 @@ public:
     // The instance for the whole run, made on first call from the standard settings locations.
     static GPSUtils& sharedUtils();
 
-    // Tests and tools make their own with chosen files and probe.
-    explicit GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe = nullptr);
+    // Tests and tools make their own with chosen files and probe; `write` (tests) replaces the
+    // settings file's contents whole.
+    explicit GPSUtils(SettingsLocation location, std::shared_ptr<const VideoTrackProbe> probe = nullptr,
+                      SettingsWriter::WriteFile write = {});
 
-    // 0 MPH, anything else KM/H.
+    // 0 MPH, anything else KM/H. The setters are seen at once and written to the settings file
+    // in the background; setting the value already stored writes nothing.
     uint64_t unitType() const;
     void setUnitType(uint64_t unitType);
     float volume() const;
     void setVolume(float volume);
+    // Waits until every change is on disk (or its write failed): at quit, and in tests. The
+    // shared instance also flushes when the program exits.
+    bool flush() { return settings_.flush(); }
 
     static constexpr float defaultMaxSpeed() { return 30.0f; }
     static std::string TimeUnitName() { return "min"; }

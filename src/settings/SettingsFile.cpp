@@ -52,11 +52,16 @@ std::filesystem::path resolvedWriteTarget(const std::filesystem::path& path) {
     return path;
 }
 
+bool writeFollowingLinks(const std::filesystem::path& file, std::string_view contents) {
+    return writeFileAtomically(resolvedWriteTarget(file), contents);
+}
+
 }  // namespace
 
-SettingsFile SettingsFile::load(const SettingsLocation& location) {
+SettingsFile SettingsFile::load(const SettingsLocation& location, SettingsWriter::WriteFile write) {
     SettingsFile settings;
     settings.writeTo_ = location.userFile;
+    settings.writeFile_ = write ? std::move(write) : writeFollowingLinks;
     if (location.userFile && entryExists(*location.userFile))
         settings.readFrom_ = location.userFile;
     else if (location.shippedFile && entryExists(*location.shippedFile))
@@ -120,18 +125,26 @@ bool SettingsFile::setRealValue(const std::string& key, double value) {
 
 bool SettingsFile::replace(const std::string& key, PlistNode value) {
     if (!root_ || !value) return false;
+    plist_t current = plist_dict_get_item(root_.get(), key.c_str());
+    if (current && plist_get_node_type(current) == plist_get_node_type(value.get()) &&
+        plist_compare_node_value(current, value.get()))
+        return false;
     // The dictionary takes ownership of the new node and frees the one it replaces.
     plist_dict_set_item(root_.get(), key.c_str(), value.release());
     return save();
 }
 
-bool SettingsFile::save() const {
+bool SettingsFile::save() {
     if (!writeTo_) return false;
     char* xml = nullptr;
     uint32_t length = 0;
     plist_to_xml(root_.get(), &xml, &length);
     if (xml == nullptr) return false;
-    const std::string contents(xml, length);
+    std::string contents(xml, length);
     plist_to_xml_free(xml);
-    return writeFileAtomically(resolvedWriteTarget(*writeTo_), contents);
+    if (!writer_) writer_ = std::make_unique<SettingsWriter>(*writeTo_, writeFile_);
+    writer_->write(std::move(contents));
+    return true;
 }
+
+bool SettingsFile::flush() { return writer_ ? writer_->flush() : true; }

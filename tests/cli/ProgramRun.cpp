@@ -26,14 +26,16 @@ std::string readAll(std::FILE* file) {
 
 }  // namespace
 
-ProgramResult runTool(const std::vector<std::string>& arguments) {
+ProgramResult runTool(const std::vector<std::string>& arguments) { return runProgram(DASHTRACK_GPS_PATH, arguments); }
+
+ProgramResult runProgram(const std::string& program, const std::vector<std::string>& arguments) {
     ::setenv("TZ", "UTC", 1);  // the child inherits it
     // Temporary files rather than pipes: no risk of a deadlock on large output.
     const std::unique_ptr<std::FILE, CloseFile> out(std::tmpfile()), err(std::tmpfile());
     ProgramResult result;
     if (!out || !err) return result;
 
-    std::vector<std::string> words{DASHTRACK_GPS_PATH};
+    std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
     for (std::string& word : words) argv.push_back(word.data());

@@ -13,3 +13,5 @@ struct ProgramResult {
 // Runs the tool with the arguments, in the UTC time zone so that results do not depend on the
 // machine's zone.
 ProgramResult runTool(const std::vector<std::string>& arguments);
+// The same with another copy of the program.
+ProgramResult runProgram(const std::string& program, const std::vector<std::string>& arguments);

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <tuple>
+
 namespace {
 
 struct FormCase {
@@ -188,15 +191,38 @@ TEST(GPSDataTest, Mp4FormKeepsAnInvalidDateButStillShortensTheYear) {
     EXPECT_EQ(sample.TimeText(), "05:00:00");
 }
 
-TEST(GPSDataTest, Mp4FormSurvivesNonFiniteValues) {
+std::string printed(const char* pattern, double value) {
+    char text[64];
+    std::snprintf(text, sizeof text, pattern, value);
+    return text;
+}
+
+TEST(GPSDataTest, Mp4FormOfNonFiniteAndHugeValuesKeepsItsRules) {
     TimeZoneGuard utc("UTC0");
-    const float values[] = {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 3e38f,
-                            -3e38f};
-    for (float v : values) {
+    const struct {
+        float value;
+        int hours;  // the shift of the time: none without a finite longitude, clamped when huge
+    } cases[] = {{std::numeric_limits<float>::quiet_NaN(), 0},
+                 {std::numeric_limits<float>::infinity(), 0},
+                 {3e38f, 1000000 / 15},
+                 {-3e38f, 1000000 / 15}};  // the sign comes from the indicator, not the value
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.value);
         GPSData sample;
-        sample.SetData(dated(mp4Record(v, 'N', v, 'E', v), 16, 1, 1, 0, 0, 0), true);
-        EXPECT_FALSE(sample.LongitudeText().empty());
+        const GPSDATA raw = dated(mp4Record(c.value, 'N', c.value, 'E', c.value), 16, 1, 1, 0, 0, 0);
+        sample.SetData(raw, true);
+        // The speed is a real number within the cap, whatever came in.
+        EXPECT_GE(sample.SpeedMPH(), 0.0f);
         EXPECT_LE(sample.SpeedMPH(), 200.0f);
+        EXPECT_EQ(sample.SpeedMPHText(), printed("%05.02f", sample.SpeedMPH()));
+        EXPECT_EQ(sample.LatitudeText(), printed("%08.05f", sample.Latitude()));
+        EXPECT_EQ(sample.LongitudeText(), printed("%08.05f", sample.Longitude()));
+        RMCINFO expected = raw.rmcinfo;
+        if (c.hours != 0) shiftRecordTimeByHours(expected, c.hours);
+        if (expected.Year >= 2000) expected.Year -= 2000;
+        const RMCINFO& stored = sample.data().rmcinfo;
+        EXPECT_EQ(std::tie(stored.Year, stored.Month, stored.Day, stored.Hour),
+                  std::tie(expected.Year, expected.Month, expected.Day, expected.Hour));
     }
 }
 

@@ -1,5 +1,7 @@
 // Runs the GPS tests against a settings file of their own, so that switching the speed unit never
 // touches the user's settings.
+#include "GPSUtils.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -18,6 +20,8 @@ int main(int argc, char** argv) {
 )";
     setenv("XDG_CONFIG_HOME", home, 1);
     const int result = RUN_ALL_TESTS();
+    // The settings are written in the background: done with them before their folder goes.
+    GPSUtils::sharedUtils().flush();
     std::filesystem::remove_all(home);
     return result;
 }
