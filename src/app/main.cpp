@@ -30,5 +30,8 @@ int main(int argc, char** argv) {
     window.show();
     // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
     if (const auto movies = movieArguments(argc, argv); !movies.empty()) window.play(movies.front());
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    // Settings are written in the background; the last change must be on disk before we go.
+    GPSUtils::sharedUtils().flush();
+    return status;
 }
