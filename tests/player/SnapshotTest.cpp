@@ -6,6 +6,8 @@
 #include "PlayerTestDoubles.h"
 #include "PlayerTestSupport.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -64,6 +66,17 @@ protected:
                    "-f", "image2", out});
         return QImage(out);
     }
+    // Every frame of a movie as the ffmpeg program decodes it from the start (its seek in MPEG-TS
+    // is not exact), to be read with frameNumber.
+    QString decodeEveryFrame(const QString& movie) {
+        const QString folder = dir_.filePath(QFileInfo(movie).fileName() + "-frames");
+        QDir().mkpath(folder);
+        runFfmpeg({"-i", movie, "-f", "image2", folder + "/%03d.png"});
+        return folder;
+    }
+    static QImage frameNumber(const QString& folder, int number) {
+        return QImage(QString("%1/%2.png").arg(folder).arg(number + 1, 3, 10, QChar('0')));
+    }
 
     TempSettings settings_;
     std::shared_ptr<FakeMediaPlayerFactory> factory_ = std::make_shared<FakeMediaPlayerFactory>();
@@ -87,11 +100,49 @@ TEST_F(SnapshotTest, FrameAtThePlayersTimeMatchesTheFfmpegProgram) {
     // The measure tells frames apart: a second earlier is another picture.
     EXPECT_GT(meanAbsoluteDifference(shot, ffmpegFrame(11.5)), difference + 1.0);
 
+    // A time just short of a frame, as the player rounds it (10/30 s read as 0.333 s), names that frame.
+    load(k720p, 1.0 / 3.0);
+    EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.333)), 2.0);
+
     // Outside the movie: its last frame (from 599/30 s) and its first.
     load(k720p, 25.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(19.96)), 2.0);
     load(k720p, -3.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.0)), 2.0);
+}
+
+// Every container: those with an index of keyframes, and MPEG-TS and MPEG-PS, which have none, so
+// that a seek may land between two keyframes.
+TEST_F(SnapshotTest, EveryContainerGivesTheFrameAtTheTime) {
+    const QStringList h264{"-c:v", "libx264", "-preset", "ultrafast", "-g", "25", "-pix_fmt", "yuv420p"};
+    const struct {
+        const char* name;
+        QStringList codec;
+    } cases[] = {
+        {"movie.mp4", h264}, {"movie.mkv", h264}, {"movie.avi", h264},
+        {"movie.flv", h264}, {"movie.ts", h264},  {"movie.mpg", {"-c:v", "mpeg2video", "-g", "25", "-q:v", "2"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const QString movie = dir_.filePath(c.name);
+        // The hue turns by 36 degrees a frame, so that each frame is far from the one before.
+        ASSERT_TRUE(runFfmpeg(QStringList{"-f", "lavfi", "-i", "testsrc2=size=320x180:rate=25:duration=6,hue=h=900*t"} +
+                              c.codec + QStringList{movie}));
+        const QString frames = decodeEveryFrame(movie);
+        // At times of frames (one every 0.04 s), and before the start, where the first frame shows.
+        const struct {
+            double at;
+            int frame;
+        } times[] = {{0.0, 0}, {-1.0, 0}, {0.52, 13}, {2.52, 63}, {2.55, 63}, {3.96, 99}, {5.2, 130}};
+        for (const auto& t : times) {
+            load(movie.toStdString(), t.at);
+            const QImage shot = snapshotImage();
+            ASSERT_FALSE(shot.isNull()) << t.at;
+            EXPECT_LT(meanAbsoluteDifference(shot, frameNumber(frames, t.frame)), 2.0) << t.at;
+            // The measure tells neighbouring frames apart.
+            EXPECT_GT(meanAbsoluteDifference(shot, frameNumber(frames, t.frame + 1)), 10.0) << t.at;
+        }
+    }
 }
 
 TEST_F(SnapshotTest, OnlyAPausedOrPlayingPlayerGivesAFrame) {

@@ -1,56 +1,60 @@
 #include "FrameGrabber.h"
 
 #include "FFmpegHandles.h"
+#include "MovieFile.h"
 #include "SnapshotColour.h"
 
 extern "C" {
 #include <libavutil/mathematics.h>
 }
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 
 namespace {
 
 struct VideoInput {
-    FormatContextPtr format;
+    MovieFile movie;
     CodecContextPtr decoder;
-    int streamIndex = -1;
 };
 
-std::optional<VideoInput> openVideo(const std::filesystem::path& movie) {
-    AVFormatContext* opened = nullptr;
-    // On failure FFmpeg frees the context itself.
-    if (avformat_open_input(&opened, movie.c_str(), nullptr, nullptr) < 0) return std::nullopt;
-    VideoInput input;
-    input.format.reset(opened);
-    if (avformat_find_stream_info(input.format.get(), nullptr) < 0) return std::nullopt;
-
-    const AVCodec* codec = nullptr;
-    input.streamIndex = av_find_best_stream(input.format.get(), AVMEDIA_TYPE_VIDEO, -1, -1, &codec, 0);
-    if (input.streamIndex < 0 || codec == nullptr) return std::nullopt;
-    for (unsigned i = 0; i < input.format->nb_streams; ++i) {
-        if (static_cast<int>(i) != input.streamIndex) input.format->streams[i]->discard = AVDISCARD_ALL;
+std::optional<VideoInput> openVideo(const std::filesystem::path& file) {
+    std::optional<MovieFile> movie = MovieFile::open(file);
+    if (!movie) return std::nullopt;
+    movie->readStreamDetails();
+    const AVStream& stream = movie->videoStream();
+    const AVCodec* codec = avcodec_find_decoder(stream.codecpar->codec_id);
+    if (codec == nullptr) return std::nullopt;
+    AVFormatContext& format = movie->format();
+    for (unsigned i = 0; i < format.nb_streams; ++i) {
+        if (format.streams[i] != &stream) format.streams[i]->discard = AVDISCARD_ALL;
     }
 
-    input.decoder.reset(avcodec_alloc_context3(codec));
-    if (!input.decoder ||
-        avcodec_parameters_to_context(input.decoder.get(), input.format->streams[input.streamIndex]->codecpar) < 0 ||
-        avcodec_open2(input.decoder.get(), codec, nullptr) < 0) {
+    CodecContextPtr decoder(avcodec_alloc_context3(codec));
+    if (!decoder || avcodec_parameters_to_context(decoder.get(), stream.codecpar) < 0 ||
+        avcodec_open2(decoder.get(), codec, nullptr) < 0) {
         return std::nullopt;
     }
-    return input;
+    return VideoInput{std::move(*movie), std::move(decoder)};
 }
 
 // The time in the stream's time base. Players count from the movie's start time, FFmpeg's
-// timestamps from the file's zero.
+// timestamps from the file's zero. Rounded down, so that a time between two frames names the
+// earlier; half a unit of the player's time is added first, so that a time the player rounded to
+// its own precision (a microsecond) does not fall just short of its frame.
 std::optional<int64_t> streamTimestamp(const VideoInput& input, MediaTime time) {
-    if (!time.isValid()) return std::nullopt;
-    const AVRational timeBase = input.format->streams[input.streamIndex]->time_base;
-    const int64_t at = av_rescale_q_rnd(time.value, AVRational{1, time.timescale}, timeBase, AV_ROUND_NEAR_INF);
-    const int64_t start = input.format->start_time == AV_NOPTS_VALUE
-                              ? 0
-                              : av_rescale_q(input.format->start_time, AV_TIME_BASE_Q, timeBase);
+    const AVRational timeBase = input.movie.videoStream().time_base;
+    if (!time.isValid() || timeBase.num <= 0 || timeBase.den <= 0) return std::nullopt;
+    int64_t halfUnits = 0;
+    int64_t halfUnitsPerTick = 0;
+    if (__builtin_mul_overflow(time.value, 2, &halfUnits) || __builtin_add_overflow(halfUnits, 1, &halfUnits) ||
+        __builtin_mul_overflow(int64_t{time.timescale} * 2, int64_t{timeBase.num}, &halfUnitsPerTick)) {
+        return std::nullopt;
+    }
+    const int64_t at = av_rescale_rnd(halfUnits, timeBase.den, halfUnitsPerTick, AV_ROUND_DOWN);
+    const int64_t movieStart = input.movie.format().start_time;
+    const int64_t start = movieStart == AV_NOPTS_VALUE ? 0 : av_rescale_q(movieStart, AV_TIME_BASE_Q, timeBase);
     int64_t target = 0;
     if (at == std::numeric_limits<int64_t>::min() || __builtin_add_overflow(at, start, &target)) {
         return std::nullopt;
@@ -58,21 +62,26 @@ std::optional<int64_t> streamTimestamp(const VideoInput& input, MediaTime time) 
     return target;
 }
 
-// Decodes from the keyframe at or before target up to the frame on screen at target.
-FramePtr decodeFrameAt(VideoInput& input, int64_t target) {
-    AVFormatContext* format = input.format.get();
-    AVCodecContext* decoder = input.decoder.get();
-    // A failed seek leaves reading at the start, which only costs time.
-    if (av_seek_frame(format, input.streamIndex, target, AVSEEK_FLAG_BACKWARD) >= 0) {
-        avcodec_flush_buffers(decoder);
-    }
+struct DecodedFrame {
+    FramePtr frame;
+    // The first frame the decoder gave came after target: reading began past the keyframe needed.
+    bool beganAfterTarget = false;
+};
 
+// Decodes from where reading stands up to the frame on screen at target. After a seek, packets
+// before the first keyframe are left out: decoded without their reference they give broken
+// pictures (MPEG-2) or none (H.264).
+DecodedFrame decodeUpTo(VideoInput& input, int64_t target, bool fromKeyframe) {
+    AVFormatContext* format = &input.movie.format();
+    AVCodecContext* decoder = input.decoder.get();
+    const int streamIndex = input.movie.videoStreamIndex();
     PacketPtr packet(av_packet_alloc());
     FramePtr decoded(av_frame_alloc());
-    FramePtr shown(av_frame_alloc());
-    if (!packet || !decoded || !shown) return nullptr;
+    DecodedFrame result{FramePtr(av_frame_alloc())};
+    if (!packet || !decoded || !result.frame) return {};
     bool haveShown = false;
     bool draining = false;
+    bool waitingForKeyframe = fromKeyframe;
 
     for (;;) {
         const int received = avcodec_receive_frame(decoder, decoded.get());
@@ -81,10 +90,13 @@ FramePtr decodeFrameAt(VideoInput& input, int64_t target) {
             const bool later = pts != AV_NOPTS_VALUE && pts > target;
             // The first frame after target ends the search, unless nothing came before it.
             if (later && haveShown) break;
-            av_frame_unref(shown.get());
-            av_frame_move_ref(shown.get(), decoded.get());
+            av_frame_unref(result.frame.get());
+            av_frame_move_ref(result.frame.get(), decoded.get());
             haveShown = true;
-            if (later) break;
+            if (later) {
+                result.beganAfterTarget = true;
+                break;
+            }
             continue;
         }
         if (received != AVERROR(EAGAIN) || draining) break;  // the end, or a broken stream
@@ -94,13 +106,58 @@ FramePtr decodeFrameAt(VideoInput& input, int64_t target) {
             draining = true;
             continue;
         }
-        if (packet->stream_index == input.streamIndex) {
+        if (packet->stream_index == streamIndex) {
+            waitingForKeyframe = waitingForKeyframe && (packet->flags & AV_PKT_FLAG_KEY) == 0;
             // A damaged packet is skipped; the decoder picks up again at the next good one.
-            avcodec_send_packet(decoder, packet.get());
+            if (!waitingForKeyframe) avcodec_send_packet(decoder, packet.get());
         }
         av_packet_unref(packet.get());
     }
-    return haveShown ? std::move(shown) : nullptr;
+    if (!haveShown) result.frame.reset();
+    return result;
+}
+
+// The first time of the video stream, in its time base.
+int64_t streamStart(const VideoInput& input) {
+    const AVStream& stream = input.movie.videoStream();
+    if (stream.start_time != AV_NOPTS_VALUE) return stream.start_time;
+    const int64_t movieStart = input.movie.format().start_time;
+    return movieStart == AV_NOPTS_VALUE ? 0 : av_rescale_q(movieStart, AV_TIME_BASE_Q, stream.time_base);
+}
+
+// How far back reading may start again before it starts from the beginning: 64 seconds.
+constexpr int kLongestStepBack = 7;
+
+// The frame on screen at target. MP4, MOV and MKV seek to the keyframe before target through their
+// index; MPEG-TS and MPEG-PS have none and may land between keyframes, so that the first keyframe
+// read comes after target. Then reading starts again further back, twice as far each time, and at
+// last from the beginning, where every packet is decoded.
+FramePtr decodeFrameAt(const std::filesystem::path& file, std::optional<VideoInput>& input, int64_t target) {
+    const int64_t start = streamStart(*input);
+    const int64_t oneSecond =
+        std::max<int64_t>(1, av_rescale_q(1, AVRational{1, 1}, input->movie.videoStream().time_base));
+    for (int step = 0;; ++step) {
+        const int64_t back = step == 0 ? 0 : oneSecond << (step - 1);
+        int64_t from = 0;
+        bool fromStart = step > kLongestStepBack || __builtin_sub_overflow(target, back, &from) || from <= start;
+        bool moved = step > 0;
+        if (!fromStart) {
+            moved = true;
+            fromStart =
+                av_seek_frame(&input->movie.format(), input->movie.videoStreamIndex(), from, AVSEEK_FLAG_BACKWARD) < 0;
+        }
+        if (fromStart && moved) {
+            // Only a newly opened file stands at its first packet in every container: a seek by time
+            // finds MPEG-PS packets by their decoding time, a seek to the first byte confuses MKV.
+            input.reset();
+            std::optional<VideoInput> reopened = openVideo(file);
+            if (!reopened) return nullptr;
+            input.emplace(std::move(*reopened));
+        }
+        avcodec_flush_buffers(input->decoder.get());
+        DecodedFrame decoded = decodeUpTo(*input, target, !fromStart);
+        if (fromStart || (decoded.frame && !decoded.beganAfterTarget)) return std::move(decoded.frame);
+    }
 }
 
 std::optional<RgbImage> toRgb(const AVFrame& frame) {
@@ -146,7 +203,7 @@ std::optional<RgbImage> FrameGrabber::frameAt(const std::filesystem::path& movie
     if (!input) return std::nullopt;
     const std::optional<int64_t> target = streamTimestamp(*input, time);
     if (!target) return std::nullopt;
-    const FramePtr frame = decodeFrameAt(*input, *target);
+    const FramePtr frame = decodeFrameAt(movie, input, *target);
     if (!frame) return std::nullopt;
     return toRgb(*frame);
 }
