@@ -5,6 +5,7 @@
 #include "GPSPlayerView.h"
 #include "PlayerTestDoubles.h"
 #include "PlayerTestSupport.h"
+#include "PngEncoder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -15,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
+#include <random>
 
 namespace {
 
@@ -186,6 +189,32 @@ TEST_F(SnapshotTest, PictureKeepsItsStoredPixelSize) {
                            "-pix_fmt", "yuv420p", wide}));
     load(wide.toStdString(), 0.5);
     EXPECT_EQ(snapshotImage().size(), QSize(320, 180));
+}
+
+// The encoder keeps every pixel, whatever the size and content; a picture whose pixels do not
+// match its size gives nothing.
+TEST(PngEncoder, DecodesBackToTheSamePixels) {
+    std::mt19937 random(7);
+    for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(333, 17), QSize(64, 64)}) {
+        RgbImage image{size.width(), size.height(), {}};
+        image.pixels.resize(image.rowBytes() * static_cast<std::size_t>(image.height));
+        // Half noise, half smooth ramps, so that both kinds of rows are compressed.
+        for (std::size_t i = 0; i < image.pixels.size(); ++i) {
+            image.pixels[i] = i % 2 ? static_cast<uint8_t>(random()) : static_cast<uint8_t>(i / 7);
+        }
+        const auto png = PngEncoder::encode(image);
+        ASSERT_TRUE(png.has_value());
+        const QImage decoded =
+            QImage::fromData(png->data(), static_cast<int>(png->size()), "PNG").convertToFormat(QImage::Format_RGB888);
+        ASSERT_EQ(decoded.size(), size);
+        for (int y = 0; y < size.height(); ++y) {
+            ASSERT_EQ(
+                std::memcmp(decoded.constScanLine(y), image.pixels.data() + image.rowBytes() * y, image.rowBytes()), 0)
+                << size.width() << "x" << size.height() << " row " << y;
+        }
+    }
+    EXPECT_FALSE(PngEncoder::encode(RgbImage{}).has_value());
+    EXPECT_FALSE(PngEncoder::encode(RgbImage{2, 2, std::vector<uint8_t>(11)}).has_value());
 }
 
 }  // namespace
