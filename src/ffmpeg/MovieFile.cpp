@@ -67,8 +67,13 @@ std::optional<MovieFile> MovieFile::open(const std::filesystem::path& file) {
     if (avformat_open_input(&opened, name.c_str(), demuxer, nullptr) < 0) return std::nullopt;
 
     MovieFile movie(std::move(input), FormatContextPtr(opened));
-    if ((opened->ctx_flags & AVFMTCTX_NOHEADER) != 0) movie.readStreamDetails();
     movie.videoStreamIndex_ = firstRealVideo(*opened);
+    // Containers that announce streams as their packets arrive (MPEG-PS, FLV) may not have named
+    // one yet; MPEG-TS usually has, from its program table.
+    if (movie.videoStreamIndex_ < 0 && (opened->ctx_flags & AVFMTCTX_NOHEADER) != 0) {
+        movie.readStreamDetails();
+        movie.videoStreamIndex_ = firstRealVideo(*opened);
+    }
     if (movie.videoStreamIndex_ < 0) return std::nullopt;
     return movie;
 }

@@ -15,8 +15,9 @@
 class MovieFile {
 public:
     // Nothing when the file is not a movie. Reads only the container's header where the header
-    // lists the streams (MP4, MOV, MKV, AVI); a few packets where streams appear only with their
-    // packets (MPEG-PS, MPEG-TS, FLV). Never prints anything. Safe to call from any thread.
+    // lists the streams (MP4, MOV, MKV, AVI, mostly MPEG-TS); a few packets, within a fixed budget,
+    // where streams appear only with their packets (MPEG-PS, FLV). Never prints anything. Safe to
+    // call from any thread.
     static std::optional<MovieFile> open(const std::filesystem::path& file);
 
     MovieFile(MovieFile&&) noexcept = default;
