@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
 namespace {
 
 const std::filesystem::path media = MEDIA_FIXTURE_DIR;
@@ -36,6 +40,29 @@ TEST(MovieAgreement, ValidationPlayerAndSnapshotGiveTheSameAnswer) {
             EXPECT_EQ(frame->width, 64);
             EXPECT_EQ(frame->height, 64);
         }
+    }
+}
+
+// None of them reaches a protocol or waits on a FIFO without a writer.
+TEST(MovieAgreement, WhatIsNotALocalFileIsRefusedByAll) {
+    QTemporaryDir directory;
+    const std::filesystem::path root = directory.path().toStdString();
+    ASSERT_EQ(::mkfifo((root / "fifo.mp4").c_str(), 0600), 0);
+    const std::filesystem::path movie = media / "video.mp4";
+    const std::filesystem::path cases[] = {
+        root / "fifo.mp4",
+        "/dev/zero",
+        root,
+        "concat:" + movie.string() + "|" + movie.string(),
+        "file:" + movie.string(),
+        "http://127.0.0.1:9/video.mp4",
+    };
+    const auto validation = defaultVideoTrackProbe();
+    for (const auto& path : cases) {
+        SCOPED_TRACE(path);
+        EXPECT_FALSE(validation->hasVideoTrack(path));
+        EXPECT_FALSE(probeMovie(path).has_value());
+        EXPECT_FALSE(FrameGrabber::frameAt(path, MediaTime::make(0, 1)).has_value());
     }
 }
 
