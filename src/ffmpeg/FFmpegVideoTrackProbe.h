@@ -1,6 +1,5 @@
 #pragma once
-// Video track test with libavformat: opens the container and reads its stream list from the
-// headers, without decoding anything.
+// Video track test with libavformat: a file passes when it opens as a MovieFile.
 
 #include "VideoTrackProbe.h"
 
@@ -8,7 +7,6 @@
 
 class FFmpegVideoTrackProbe final : public VideoTrackProbe {
 public:
-    FFmpegVideoTrackProbe();
     bool hasVideoTrack(const std::filesystem::path& file) const override;
 };
 

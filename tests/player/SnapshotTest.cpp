@@ -5,7 +5,10 @@
 #include "GPSPlayerView.h"
 #include "PlayerTestDoubles.h"
 #include "PlayerTestSupport.h"
+#include "PngEncoder.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -13,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
+#include <random>
 
 namespace {
 
@@ -64,6 +69,17 @@ protected:
                    "-f", "image2", out});
         return QImage(out);
     }
+    // Every frame of a movie as the ffmpeg program decodes it from the start (its seek in MPEG-TS
+    // is not exact), to be read with frameNumber.
+    QString decodeEveryFrame(const QString& movie) {
+        const QString folder = dir_.filePath(QFileInfo(movie).fileName() + "-frames");
+        QDir().mkpath(folder);
+        runFfmpeg({"-i", movie, "-f", "image2", folder + "/%03d.png"});
+        return folder;
+    }
+    static QImage frameNumber(const QString& folder, int number) {
+        return QImage(QString("%1/%2.png").arg(folder).arg(number + 1, 3, 10, QChar('0')));
+    }
 
     TempSettings settings_;
     std::shared_ptr<FakeMediaPlayerFactory> factory_ = std::make_shared<FakeMediaPlayerFactory>();
@@ -87,11 +103,49 @@ TEST_F(SnapshotTest, FrameAtThePlayersTimeMatchesTheFfmpegProgram) {
     // The measure tells frames apart: a second earlier is another picture.
     EXPECT_GT(meanAbsoluteDifference(shot, ffmpegFrame(11.5)), difference + 1.0);
 
+    // A time just short of a frame, as the player rounds it (10/30 s read as 0.333 s), names that frame.
+    load(k720p, 1.0 / 3.0);
+    EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.333)), 2.0);
+
     // Outside the movie: its last frame (from 599/30 s) and its first.
     load(k720p, 25.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(19.96)), 2.0);
     load(k720p, -3.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.0)), 2.0);
+}
+
+// Every container: those with an index of keyframes, and MPEG-TS and MPEG-PS, which have none, so
+// that a seek may land between two keyframes.
+TEST_F(SnapshotTest, EveryContainerGivesTheFrameAtTheTime) {
+    const QStringList h264{"-c:v", "libx264", "-preset", "ultrafast", "-g", "25", "-pix_fmt", "yuv420p"};
+    const struct {
+        const char* name;
+        QStringList codec;
+    } cases[] = {
+        {"movie.mp4", h264}, {"movie.mkv", h264}, {"movie.avi", h264},
+        {"movie.flv", h264}, {"movie.ts", h264},  {"movie.mpg", {"-c:v", "mpeg2video", "-g", "25", "-q:v", "2"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        const QString movie = dir_.filePath(c.name);
+        // The hue turns by 36 degrees a frame, so that each frame is far from the one before.
+        ASSERT_TRUE(runFfmpeg(QStringList{"-f", "lavfi", "-i", "testsrc2=size=320x180:rate=25:duration=6,hue=h=900*t"} +
+                              c.codec + QStringList{movie}));
+        const QString frames = decodeEveryFrame(movie);
+        // At times of frames (one every 0.04 s), and before the start, where the first frame shows.
+        const struct {
+            double at;
+            int frame;
+        } times[] = {{0.0, 0}, {-1.0, 0}, {0.52, 13}, {2.52, 63}, {2.55, 63}, {3.96, 99}, {5.2, 130}};
+        for (const auto& t : times) {
+            load(movie.toStdString(), t.at);
+            const QImage shot = snapshotImage();
+            ASSERT_FALSE(shot.isNull()) << t.at;
+            EXPECT_LT(meanAbsoluteDifference(shot, frameNumber(frames, t.frame)), 2.0) << t.at;
+            // The measure tells neighbouring frames apart.
+            EXPECT_GT(meanAbsoluteDifference(shot, frameNumber(frames, t.frame + 1)), 10.0) << t.at;
+        }
+    }
 }
 
 TEST_F(SnapshotTest, OnlyAPausedOrPlayingPlayerGivesAFrame) {
@@ -135,6 +189,32 @@ TEST_F(SnapshotTest, PictureKeepsItsStoredPixelSize) {
                            "-pix_fmt", "yuv420p", wide}));
     load(wide.toStdString(), 0.5);
     EXPECT_EQ(snapshotImage().size(), QSize(320, 180));
+}
+
+// The encoder keeps every pixel, whatever the size and content; a picture whose pixels do not
+// match its size gives nothing.
+TEST(PngEncoder, DecodesBackToTheSamePixels) {
+    std::mt19937 random(7);
+    for (const QSize size : {QSize(1, 1), QSize(3, 2), QSize(333, 17), QSize(64, 64)}) {
+        RgbImage image{size.width(), size.height(), {}};
+        image.pixels.resize(image.rowBytes() * static_cast<std::size_t>(image.height));
+        // Half noise, half smooth ramps, so that both kinds of rows are compressed.
+        for (std::size_t i = 0; i < image.pixels.size(); ++i) {
+            image.pixels[i] = i % 2 ? static_cast<uint8_t>(random()) : static_cast<uint8_t>(i / 7);
+        }
+        const auto png = PngEncoder::encode(image);
+        ASSERT_TRUE(png.has_value());
+        const QImage decoded =
+            QImage::fromData(png->data(), static_cast<int>(png->size()), "PNG").convertToFormat(QImage::Format_RGB888);
+        ASSERT_EQ(decoded.size(), size);
+        for (int y = 0; y < size.height(); ++y) {
+            ASSERT_EQ(
+                std::memcmp(decoded.constScanLine(y), image.pixels.data() + image.rowBytes() * y, image.rowBytes()), 0)
+                << size.width() << "x" << size.height() << " row " << y;
+        }
+    }
+    EXPECT_FALSE(PngEncoder::encode(RgbImage{}).has_value());
+    EXPECT_FALSE(PngEncoder::encode(RgbImage{2, 2, std::vector<uint8_t>(11)}).has_value());
 }
 
 }  // namespace

@@ -1,8 +1,11 @@
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSUtils.h"
+#include "MediaFixtures.h"
 #include "TestFiles.h"
 
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -10,22 +13,47 @@ const std::filesystem::path media = SETTINGS_TEST_MEDIA_DIR;
 const GPSUtils utils({.userFile = {}, .shippedFile = {}}, defaultVideoTrackProbe());
 
 TEST(Validation, AcceptsOnlyMoviesWithAPicture) {
-    const struct {
-        const char* name;
-        bool valid;
-    } cases[] = {
-        {"video.mp4", true},  {"video.avi", true},  {"video.mkv", true},    {"video.ts", true},
-        {"audio.mp4", false}, {"cover.m4a", false}, {"picture.mp4", false}, {"text.mp4", false},
-        {"notes.txt", false}, {"empty.mp4", false}, {"folder.mp4", false},  {"missing.mp4", false},
-    };
-    for (const auto& c : cases) EXPECT_EQ(utils.isValidURL(media / c.name), c.valid) << c.name;
+    for (const auto& fixture : kMediaFixtures) {
+        EXPECT_EQ(utils.isValidURL(media / fixture.name), fixture.movie) << fixture.name;
+    }
     EXPECT_FALSE(utils.isValidURL(std::nullopt));
 }
 
-TEST(Validation, NameThatLooksLikeAnotherProtocolIsStillAFile) {
+// Only local files are read: a name is never taken for a protocol, and nothing that is not a
+// regular file is opened, so a FIFO without a writer cannot make validation wait.
+TEST(Validation, ReadsOnlyRegularLocalFiles) {
     TemporaryDirectory directory;
+    std::filesystem::copy_file(media / "video.mp4", directory / "a.mp4");
     std::filesystem::copy_file(media / "video.mp4", directory / "concat:video.mp4");
-    EXPECT_TRUE(utils.isValidURL(directory / "concat:video.mp4"));
+    ASSERT_EQ(::mkfifo((directory / "fifo.mp4").c_str(), 0600), 0);
+    std::filesystem::create_symlink(directory / "a.mp4", directory / "link.mp4");
+
+    const struct {
+        std::filesystem::path path;
+        bool movie;
+    } cases[] = {
+        {directory / "concat:video.mp4", true},  // a file by that name
+        {directory / "link.mp4", true},
+        {"concat:" + (directory / "a.mp4").string() + "|" + (directory / "a.mp4").string(), false},
+        {"http://127.0.0.1:9/a.mp4", false},
+        {"file:" + (directory / "a.mp4").string(), false},
+        {directory / "fifo.mp4", false},
+        {"/dev/zero", false},
+        {"/dev/null", false},
+        {directory / std::string("a.mp4\0.txt", 10), false},
+        {"", false},
+    };
+    for (const auto& c : cases) EXPECT_EQ(utils.isValidURL(c.path), c.movie) << c.path;
+}
+
+TEST(Validation, RelativeNameWithAColonIsAFileInTheCurrentFolder) {
+    TemporaryDirectory directory;
+    std::filesystem::copy_file(media / "video.mp4", directory / "a:b.mp4");
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::current_path(directory.path());
+    const bool valid = utils.isValidURL("a:b.mp4");
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(valid);
 }
 
 TEST(Validation, ListsKeepOrderAndDuplicates) {

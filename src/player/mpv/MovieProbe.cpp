@@ -1,70 +1,35 @@
 #include "MovieProbe.h"
 
-#include "FFmpegHandles.h"
+#include "MovieFile.h"
 #include "MpvLogging.h"
 
 extern "C" {
 #include <libavformat/avformat.h>
-#include <libavutil/log.h>
 }
 
-#include <memory>
-#include <string_view>
-
-namespace {
-
-using FormatContext = FormatContextPtr;
-
-FormatContext openInput(const std::filesystem::path& file) {
-    AVFormatContext* raw = nullptr;
-    if (avformat_open_input(&raw, file.c_str(), nullptr, nullptr) < 0)
-        return {};  // avformat_open_input frees the context itself on failure
-    return FormatContext(raw);
-}
-
-// FFmpeg reads a still picture as a one-frame video; a picture is no movie.
-bool isStillImage(const AVInputFormat* format) {
-    const std::string_view name = format->name;
-    return name == "image2" || name.ends_with("_pipe");
-}
-
-}  // namespace
+#include <span>
 
 std::optional<MovieInfo> probeMovie(const std::filesystem::path& file) {
-    // libavformat would print its complaints about foreign files on stderr; the caller only needs
-    // the verdict.
-    av_log_set_level(AV_LOG_FATAL);
-    FormatContext context = openInput(file);
-    if (!context) {
-        qCDebug(lcMpv) << "not a readable container:" << file.c_str();
+    std::optional<MovieFile> movie = MovieFile::open(file);
+    if (!movie) {
+        qCDebug(lcMpv) << "not a movie:" << file.c_str();
         return std::nullopt;
     }
-    if (isStillImage(context->iformat)) {
-        qCDebug(lcMpv) << "a still picture, not a movie:" << file.c_str();
-        return std::nullopt;
-    }
+    // Most containers give the duration in their header; the others (MPEG-TS) need a look at the
+    // packets.
+    if (movie->format().duration == AV_NOPTS_VALUE) movie->readStreamDetails();
+
+    const AVFormatContext& format = movie->format();
+    const AVCodecParameters& video = *movie->videoStream().codecpar;
     MovieInfo info;
-    // MP4 and MOV carry their streams and duration in the header; only other containers need the
-    // slower stream probe.
-    if (context->nb_streams == 0 || context->duration == AV_NOPTS_VALUE)
-        avformat_find_stream_info(context.get(), nullptr);
-    for (unsigned i = 0; i < context->nb_streams; ++i) {
-        const AVCodecParameters* codec = context->streams[i]->codecpar;
-        const bool coverArt = context->streams[i]->disposition & AV_DISPOSITION_ATTACHED_PIC;
-        if (codec->codec_type == AVMEDIA_TYPE_VIDEO && !coverArt && !info.hasVideo) {
-            info.hasVideo = true;
-            info.width = codec->width;
-            info.height = codec->height;
-        } else if (codec->codec_type == AVMEDIA_TYPE_AUDIO) {
-            info.hasAudio = true;
-        }
-    }
-    if (!info.hasVideo && !info.hasAudio) {
-        qCDebug(lcMpv) << "no audio or video stream:" << file.c_str();
-        return std::nullopt;
+    info.hasVideo = true;
+    info.width = video.width;
+    info.height = video.height;
+    for (const AVStream* stream : std::span(format.streams, format.nb_streams)) {
+        if (stream->codecpar->codec_type == AVMEDIA_TYPE_AUDIO) info.hasAudio = true;
     }
     static_assert(AV_TIME_BASE == kMicrosecondsPerSecond);
-    if (context->duration != AV_NOPTS_VALUE && context->duration >= 0)
-        info.duration = MediaTime::make(context->duration, kMicrosecondsPerSecond);
+    if (format.duration != AV_NOPTS_VALUE && format.duration >= 0)
+        info.duration = MediaTime::make(format.duration, kMicrosecondsPerSecond);
     return info;
 }

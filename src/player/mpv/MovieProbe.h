@@ -1,6 +1,7 @@
 #pragma once
-// What libavformat says about a movie file before mpv has opened it: whether it holds anything to
-// play, and its duration, so that a new player knows its duration at once.
+// What libavformat says about a movie file before mpv has opened it: whether it is a movie at all
+// (by the same test as playlist validation), and its duration, so that a new player knows its
+// duration at once.
 
 #include "MediaTime.h"
 
@@ -19,5 +20,5 @@ struct MovieInfo {
 // Microseconds per second: the time scale of every time the mpv player reports.
 inline constexpr int32_t kMicrosecondsPerSecond = 1'000'000;
 
-// Nothing when the file cannot be read as a container or holds neither a video nor an audio stream.
+// Nothing when the file is not a movie (MovieFile.h): every answer has hasVideo set.
 std::optional<MovieInfo> probeMovie(const std::filesystem::path& file);

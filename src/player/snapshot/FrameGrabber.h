@@ -14,6 +14,7 @@ public:
 
     // The frame shown at time (counted from the movie's start): the last frame whose presentation
     // time is at or before it; the first frame for earlier times, the last for later ones.
-    // Nothing when the file has no decodable video or the time is invalid.
+    // Nothing when the file is not a movie (MovieFile.h), its video cannot be decoded or the time
+    // is invalid.
     static std::optional<RgbImage> frameAt(const std::filesystem::path& movie, MediaTime time);
 };

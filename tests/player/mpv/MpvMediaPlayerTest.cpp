@@ -19,7 +19,7 @@ struct Clip {
     double seconds;  // as the container says, roughly
 };
 
-// H.264 with B-frames and AAC; H.264 alone; AAC alone.
+// H.264 with B-frames and AAC; H.264 alone; AAC alone (not a movie).
 const Clip kMovie{"av.mp4", 10.0};
 const Clip kVideoOnly{"video_only.mov", 6.0};
 const Clip kAudioOnly{"audio_only.m4a", 4.0};
@@ -49,7 +49,7 @@ protected:
 };
 
 TEST_F(MpvMediaPlayerTest, KnowsItsDurationAsSoonAsItIsMade) {
-    for (const Clip& clip : {kMovie, kVideoOnly, kAudioOnly}) {
+    for (const Clip& clip : {kMovie, kVideoOnly}) {
         SCOPED_TRACE(clip.name);
         auto player = open(clip);
         ASSERT_NE(player, nullptr);
@@ -76,6 +76,7 @@ TEST_F(MpvMediaPlayerTest, GivesNoPlayerForWhatIsNotAMovie) {
         write("empty.mov", ""),
         write("truncated.mp4", truncated),
         testClip("still.png"),
+        testClip(kAudioOnly.name),  // sound without a picture is no movie, as in the playlist
         root / "missing.mp4",
         root,
     };
@@ -164,7 +165,7 @@ TEST_F(MpvMediaPlayerTest, PlayingBackwardToTheStartRestsThereNotAtTheEnd) {
 }
 
 TEST_F(MpvMediaPlayerTest, PlayingToTheEndRestsAtExactlyTheDuration) {
-    for (const Clip& clip : {kMovie, kVideoOnly, kAudioOnly}) {
+    for (const Clip& clip : {kMovie, kVideoOnly}) {
         SCOPED_TRACE(clip.name);
         auto player = open(clip);
         player->seek(MediaTime::make(static_cast<int64_t>((clip.seconds - 1.0) * 100), 100));
