@@ -20,7 +20,7 @@ void* getProcAddress(void*, const char* name) {
 
 GLVideoSurface::GLVideoSurface(QWidget* parent) : QOpenGLWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
     connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
-        if (binding_.context()) mpv_render_context_report_swap(binding_.context());
+        if (binding_.context() && source_) mpv_render_context_report_swap(binding_.context());
     });
 }
 
@@ -33,9 +33,13 @@ GLVideoSurface::~GLVideoSurface() {
 void GLVideoSurface::setPlayer(MediaPlayer* player) {
     MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
     if (source == source_) return;
-    detach();
+    // The render context stays for every movie of its core; black while no player is shown.
+    newFrame_ = false;
     source_ = source;
-    attach();
+    if (source_ && source_->renderCore() != binding_.core()) {
+        detach();
+        attach();
+    }
     update();
 }
 
@@ -74,7 +78,7 @@ void GLVideoSurface::onMpvUpdate() {
     if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
         const bool newFrame = binding_.nextIsNewFrame();
         if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
-        newFrame_ = newFrame_ || newFrame;
+        newFrame_ = (newFrame_ || newFrame) && source_;
     }
     doneCurrent();
     update();
@@ -82,7 +86,7 @@ void GLVideoSurface::onMpvUpdate() {
 
 void GLVideoSurface::paintGL() {
     mpv_render_context* context = binding_.context();
-    if (!context) {
+    if (!context || !source_) {
         QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
         gl->glClearColor(0, 0, 0, 1);
         gl->glClear(GL_COLOR_BUFFER_BIT);

@@ -40,9 +40,9 @@ constexpr auto kOptions = std::to_array<Option>({
     // Frames are handed to the surface when they are due, so rendering never has to wait for
     // a frame's display time on the GUI thread.
     {"video-timing-offset", "0"},
-    // Decoding is done on the CPU; probing the GPU decoders' interop (CUDA, VA-API) at every new
-    // render context costs time and prints complaints where they are missing.
-    {"gpu-hwdec-interop", "no"},
+    // Dash-camera clips are often 4K: decode on the GPU where the machine has a decoder mpv trusts,
+    // falling back to the CPU by itself where it has none.
+    {"hwdec", "auto-safe"},
 });
 
 struct CoreDestroyer {
@@ -57,7 +57,7 @@ bool setOption(mpv_handle* handle, const char* name, const char* value) {
 
 }  // namespace
 
-MpvCore createMpvCore() {
+MpvCore createMpvCore(const MpvOptions& extra) {
     // libmpv refuses to start unless numbers are formatted the C way, and QApplication has just
     // set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
@@ -69,6 +69,7 @@ MpvCore createMpvCore() {
     for (const auto& [name, value] : kOptions) setOption(core.get(), name, value);
     if (const char* audioOutput = std::getenv("DASHTRACK_AUDIO_OUTPUT"); audioOutput && *audioOutput)
         setOption(core.get(), "ao", audioOutput);
+    for (const auto& [name, value] : extra) setOption(core.get(), name.c_str(), value.c_str());
     if (const int error = mpv_initialize(core.get()); error < 0) {
         qCWarning(lcMpv) << "mpv_initialize failed:" << mpv_error_string(error);
         return {};

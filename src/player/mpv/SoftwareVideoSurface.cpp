@@ -17,10 +17,10 @@ SoftwareVideoSurface::SoftwareVideoSurface(QWidget* parent)
 void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
     MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
     if (source == source_) return;
-    binding_.release();
+    // Black until the new player's first frame; the render context stays for the next movie.
     hasFrame_ = newFrame_ = false;
     source_ = source;
-    if (source_) {
+    if (source_ && source_->renderCore() != binding_.core()) {
         mpv_render_param params[]{
             {MPV_RENDER_PARAM_API_TYPE, const_cast<char*>(MPV_RENDER_API_TYPE_SW)},
             {MPV_RENDER_PARAM_INVALID, nullptr},
@@ -32,7 +32,7 @@ void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
 
 void SoftwareVideoSurface::onMpvUpdate() {
     // The frame is converted here, when mpv says it is due, never by waiting for one in paintEvent.
-    if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
+    if ((mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) && source_) {
         const bool newFrame = binding_.nextIsNewFrame();
         if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
         renderFrame();
@@ -62,12 +62,12 @@ void SoftwareVideoSurface::renderFrame() {
 
 void SoftwareVideoSurface::resizeEvent(QResizeEvent*) {
     // A paused movie gets no new frame: draw the current one again at the new size.
-    if (hasFrame_) renderFrame();
+    if (hasFrame_ && source_) renderFrame();
 }
 
 void SoftwareVideoSurface::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    if (!hasFrame_ || !binding_.context()) {
+    if (!hasFrame_ || !binding_.context() || !source_) {
         painter.fillRect(rect(), Qt::black);
         return;
     }
