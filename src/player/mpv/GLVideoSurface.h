@@ -2,11 +2,11 @@
 // The picture drawn by mpv's OpenGL renderer into the widget's framebuffer.
 
 #include "MpvRenderBinding.h"
+#include "MpvRenderSource.h"
 #include "VideoSurface.h"
 
 #include <QOpenGLWidget>
 
-class MpvRenderSource;
 
 class GLVideoSurface final : public QOpenGLWidget, public VideoSurface {
 public:
@@ -24,7 +24,12 @@ private:
     // Both need the widget's GL context, which exists only once the widget has been shown.
     void attach();
     void detach();
+    // Whether this widget's GL context runs on a GPU rather than a CPU rasteriser; needs it current.
+    bool onRealGPU() const;
+    // Black until the player's own file is open: what the core renders before is of the movie before.
+    bool showsPicture() const { return source_ && source_->fileStarted(); }
     void onMpvUpdate();
+    void discardFrame();
 
     MpvRenderSource* source_ = nullptr;
     MpvRenderBinding binding_;

@@ -40,9 +40,11 @@ constexpr auto kOptions = std::to_array<Option>({
     // Frames are handed to the surface when they are due, so rendering never has to wait for
     // a frame's display time on the GUI thread.
     {"video-timing-offset", "0"},
-    // Dash-camera clips are often 4K: decode on the GPU where the machine has a decoder mpv trusts,
-    // falling back to the CPU by itself where it has none.
-    {"hwdec", "auto-safe"},
+    // Decoding on the CPU until an OpenGL surface on a real GPU asks for more (GLVideoSurface):
+    // probing GPU decoders and their interop where there are none costs time and prints the
+    // drivers' complaints.
+    {"hwdec", "no"},
+    {"gpu-hwdec-interop", "no"},
 });
 
 struct CoreDestroyer {

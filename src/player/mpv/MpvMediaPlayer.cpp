@@ -126,6 +126,9 @@ void MpvMediaPlayer::handleEvent(const mpv_event& event, uint64_t code) {
         case MPV_EVENT_PLAYBACK_RESTART:
             state_.seekInFlight = false;
             break;
+        case MPV_EVENT_START_FILE:
+            fileStarted_ = true;
+            break;
         case MPV_EVENT_FILE_LOADED:
             state_.loaded = true;
             if (pendingSeek_) {

@@ -45,6 +45,7 @@ public:
     void seek(MediaTime time) override;
 
     MpvCore renderCore() const override { return session_->core(); }
+    bool fileStarted() const override { return fileStarted_ && holdsCore(); }
     void frameShown() override;
 
     // The properties a session must report for these players, by slot.
@@ -76,6 +77,7 @@ private:
     bool muted_ = false;
     // A seek asked for before the file was open, made once it is.
     std::optional<double> pendingSeek_;
+    bool fileStarted_ = false;
     // Our own writes still on their way to the core, per observed property: until the core has
     // them, its notifications carry the old value.
     std::array<int, kObservedCount> pendingWrites_{};

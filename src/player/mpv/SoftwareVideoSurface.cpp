@@ -32,7 +32,12 @@ void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
 
 void SoftwareVideoSurface::onMpvUpdate() {
     // The frame is converted here, when mpv says it is due, never by waiting for one in paintEvent.
-    if ((mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) && source_) {
+    if (!(mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME)) return;
+    if (!source_ || !source_->fileStarted()) {
+        discardFrame();
+        return;
+    }
+    {
         const bool newFrame = binding_.nextIsNewFrame();
         if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
         renderFrame();
@@ -45,19 +50,30 @@ void SoftwareVideoSurface::renderFrame() {
     frame_.resize(size() * ratio);
     if (frame_.isEmpty() || !binding_.context()) return;
     frame_.setDevicePixelRatio(ratio);
-    int size[2]{frame_.size().width(), frame_.size().height()};
-    std::size_t stride = frame_.stride();
+    hasFrame_ = renderInto(frame_);
+    update();
+}
+
+void SoftwareVideoSurface::discardFrame() {
+    // mpv holds its video output until the frame it handed over is rendered (for up to a fifth of
+    // a second), so a frame of the movie before is rendered, tiny, and dropped.
+    scratch_.resize(QSize(16, 16));
+    renderInto(scratch_);
+}
+
+bool SoftwareVideoSurface::renderInto(FrameBuffer& target) {
+    int size[2]{target.size().width(), target.size().height()};
+    std::size_t stride = target.stride();
     int block = 0;
     mpv_render_param params[]{
         {MPV_RENDER_PARAM_SW_SIZE, size},
         {MPV_RENDER_PARAM_SW_FORMAT, const_cast<char*>(FrameBuffer::kMpvFormat)},
         {MPV_RENDER_PARAM_SW_STRIDE, &stride},
-        {MPV_RENDER_PARAM_SW_POINTER, frame_.pixels()},
+        {MPV_RENDER_PARAM_SW_POINTER, target.pixels()},
         {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
         {MPV_RENDER_PARAM_INVALID, nullptr},
     };
-    hasFrame_ = mpv_render_context_render(binding_.context(), params) >= 0;
-    update();
+    return mpv_render_context_render(binding_.context(), params) >= 0;
 }
 
 void SoftwareVideoSurface::resizeEvent(QResizeEvent*) {

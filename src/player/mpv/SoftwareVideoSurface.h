@@ -25,10 +25,13 @@ private:
     void onMpvUpdate();
     // Renders mpv's current frame, letterboxed, at the widget's size in device pixels.
     void renderFrame();
+    void discardFrame();
+    bool renderInto(FrameBuffer& target);
 
     MpvRenderSource* source_ = nullptr;
     MpvRenderBinding binding_;
     FrameBuffer frame_;
+    FrameBuffer scratch_;
     bool hasFrame_ = false;
     bool newFrame_ = false;
 };
