@@ -36,6 +36,7 @@ void GLVideoSurface::setPlayer(MediaPlayer* player) {
     if (source == source_) return;
     // The render context stays for every movie of its core; black while no player is shown.
     newFrame_ = false;
+    awaitingFirstFrame_ = true;
     source_ = source;
     if (source_ && source_->renderCore() != binding_.core()) {
         detach();
@@ -92,8 +93,9 @@ void GLVideoSurface::detach() {
 void GLVideoSurface::onMpvUpdate() {
     makeCurrent();
     if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
+        const bool newFrame = binding_.nextIsNewFrame();
+        if (newFrame && source_ && source_->fileStarted()) awaitingFirstFrame_ = false;
         if (showsPicture()) {
-            const bool newFrame = binding_.nextIsNewFrame();
             if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
             newFrame_ = newFrame_ || newFrame;
         } else {

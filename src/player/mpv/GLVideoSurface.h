@@ -26,13 +26,15 @@ private:
     void detach();
     // Whether this widget's GL context runs on a GPU rather than a CPU rasteriser; needs it current.
     bool onRealGPU() const;
-    // Black until the player's own file is open: what the core renders before is of the movie before.
-    bool showsPicture() const { return source_ && source_->fileStarted(); }
+    // Black until the first new frame of the player's own file: what the core renders before that
+    // is of the movie before.
+    bool showsPicture() const { return source_ && source_->fileStarted() && !awaitingFirstFrame_; }
     void onMpvUpdate();
     void discardFrame();
 
     MpvRenderSource* source_ = nullptr;
     MpvRenderBinding binding_;
     bool newFrame_ = false;
+    bool awaitingFirstFrame_ = true;
     QMetaObject::Connection contextLost_;
 };

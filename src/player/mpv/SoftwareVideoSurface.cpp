@@ -19,6 +19,7 @@ void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
     if (source == source_) return;
     // Black until the new player's first frame; the render context stays for the next movie.
     hasFrame_ = newFrame_ = false;
+    awaitingFirstFrame_ = true;
     source_ = source;
     if (source_ && source_->renderCore() != binding_.core()) {
         mpv_render_param params[]{
@@ -33,16 +34,15 @@ void SoftwareVideoSurface::setPlayer(MediaPlayer* player) {
 void SoftwareVideoSurface::onMpvUpdate() {
     // The frame is converted here, when mpv says it is due, never by waiting for one in paintEvent.
     if (!(mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME)) return;
-    if (!source_ || !source_->fileStarted()) {
+    const bool newFrame = binding_.nextIsNewFrame();
+    if (newFrame && source_ && source_->fileStarted()) awaitingFirstFrame_ = false;
+    if (!source_ || !source_->fileStarted() || awaitingFirstFrame_) {
         discardFrame();
         return;
     }
-    {
-        const bool newFrame = binding_.nextIsNewFrame();
-        if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
-        renderFrame();
-        newFrame_ = (newFrame_ || newFrame) && hasFrame_;
-    }
+    if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
+    renderFrame();
+    newFrame_ = (newFrame_ || newFrame) && hasFrame_;
 }
 
 void SoftwareVideoSurface::renderFrame() {

@@ -34,4 +34,6 @@ private:
     FrameBuffer scratch_;
     bool hasFrame_ = false;
     bool newFrame_ = false;
+    // Until the first new frame of the player's file, what the core renders is of the movie before.
+    bool awaitingFirstFrame_ = true;
 };
