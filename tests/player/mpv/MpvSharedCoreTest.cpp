@@ -9,9 +9,11 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <functional>
 #include <memory>
+#include <thread>
 
 namespace {
 
@@ -106,6 +108,24 @@ TEST_F(MpvSharedCoreTest, NothingOfTheMovieBeforeReachesTheNext) {
         ASSERT_TRUE(runUntil([&] { return seconds(*next) > 0.3; }));
         EXPECT_LT(seconds(*next), 3.0);
     }
+}
+
+TEST_F(MpvSharedCoreTest, ASeekBeforeTheNextMovieHasOpenedLandsInIt) {
+    // The first movie opens while nothing drains the core's events, so that its news is still
+    // queued when the next player takes over and asks for a place in its own movie.
+    auto first = open(kFirst);
+    ASSERT_NE(first, nullptr);
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    auto next = change(first, kNext);
+    ASSERT_NE(next, nullptr);
+    next->seek(at(3.0));
+    runFor(30);
+    ASSERT_TRUE(runUntil([&] { return next->timeControlStatus() == PlayerStatus::Paused; }));
+    runFor(20);
+    EXPECT_NEAR(seconds(*next), 3.0, 0.1);
+    next->play();
+    ASSERT_TRUE(runUntil([&] { return seconds(*next) > 3.3; }));
+    EXPECT_LT(seconds(*next), 4.5);
 }
 
 TEST_F(MpvSharedCoreTest, AReplacedPlayerNoLongerMovesTheCore) {
