@@ -13,7 +13,8 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 program=$build/bench/clip-switch
 movies=("$@")
 if [ ${#movies[@]} -eq 0 ]; then
-  movies=("$build/tests/fixtures/player_720p.mov" "$build/tests/player/mpv/clips/av.mp4")
+  # The bundled samples: three 1280x720 minutes of one drive, as a camera names and lays them out.
+  movies=("$build"/samples/*.MP4 "$build"/samples/*.MOV)
 fi
 for needed in "$program" "${movies[@]}"; do
   [ -e "$needed" ] || { echo "clip-switch: $needed is missing; build first" >&2; exit 1; }

@@ -21,7 +21,8 @@ void* getProcAddress(void*, const char* name) {
 
 GLVideoSurface::GLVideoSurface(QWidget* parent) : QOpenGLWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
     connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
-        if (binding_.context() && showsPicture()) mpv_render_context_report_swap(binding_.context());
+        // Also after black frames: once told of swaps, mpv waits for each one before going on.
+        if (binding_.context()) mpv_render_context_report_swap(binding_.context());
     });
 }
 
