@@ -84,11 +84,13 @@ MpvMediaPlayer::MpvMediaPlayer(std::shared_ptr<MpvSession> session, std::filesys
     if (!sinceRequested_.isValid()) sinceRequested_.start();
     session_->attach(*this);
     // The core keeps what the movie before left behind; this one starts paused, forward, at
-    // normal speed and with its sound.
+    // normal speed, with its sound, at its own volume.
     writeFlag(Pause, true);
     writeString(PlayDirection, "forward");
     writeDouble(Speed, 1.0);
     setAudioTrack("auto");
+    setVolume(volume_);
+    setMuted(muted_);
     session_->load(file_.string());
 }
 

@@ -33,11 +33,13 @@ public:
     bool muted() const override { return muted_; }
     void setMuted(bool muted) override;
 
-    float rate() const override { return state_.rate(); }
+    float rate() const override { return holdsCore() ? state_.rate() : 0.0f; }
     void setRate(float rate) override;
     void play() override { setRate(1.0f); }
     void pause() override;
-    PlayerStatus timeControlStatus() const override { return state_.status(); }
+    PlayerStatus timeControlStatus() const override {
+        return holdsCore() ? state_.status() : PlayerStatus::Paused;
+    }
 
     bool hasItem() const override { return true; }
     MediaTime currentTime() const override { return state_.currentTime(info_.duration); }

@@ -135,6 +135,8 @@ TEST_F(MpvSharedCoreTest, AReplacedPlayerNoLongerMovesTheCore) {
     ASSERT_NE(next, nullptr);
     first->seek(at(4.0));
     first->play();
+    EXPECT_EQ(first->timeControlStatus(), PlayerStatus::Paused);
+    EXPECT_EQ(first->rate(), 0.0f);
     runFor(40);
     EXPECT_EQ(seconds(*next), 0.0);
     EXPECT_EQ(next->timeControlStatus(), PlayerStatus::Paused);
