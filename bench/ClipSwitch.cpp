@@ -173,10 +173,11 @@ int main(int argc, char** argv) {
         stall.push_back(results[i].stallMs);
         playing.push_back(results[i].playingStallMs);
     }
-    std::printf("median of %zu changes: first frame %.1f ms, call %.1f ms, longest stall %.1f ms (worst %.1f ms); "
-                "longest stall while playing %.1f ms\n",
-                first.size(), median(first), median(call), median(stall), *std::max_element(stall.begin(), stall.end()),
-                median(playing));
+    std::printf(
+        "median of %zu changes: first frame %.1f ms, call %.1f ms, longest stall %.1f ms (worst %.1f ms); "
+        "longest stall while playing %.1f ms\n",
+        first.size(), median(first), median(call), median(stall), *std::max_element(stall.begin(), stall.end()),
+        median(playing));
     surface->setPlayer(nullptr);
     player.reset();
     return 0;

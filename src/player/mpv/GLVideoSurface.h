@@ -7,7 +7,6 @@
 
 #include <QOpenGLWidget>
 
-
 class GLVideoSurface final : public QOpenGLWidget, public VideoSurface {
 public:
     explicit GLVideoSurface(QWidget* parent = nullptr);

@@ -37,9 +37,7 @@ public:
     void setRate(float rate) override;
     void play() override { setRate(1.0f); }
     void pause() override;
-    PlayerStatus timeControlStatus() const override {
-        return holdsCore() ? state_.status() : PlayerStatus::Paused;
-    }
+    PlayerStatus timeControlStatus() const override { return holdsCore() ? state_.status() : PlayerStatus::Paused; }
 
     bool hasItem() const override { return true; }
     MediaTime currentTime() const override { return state_.currentTime(info_.duration); }

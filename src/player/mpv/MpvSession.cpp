@@ -22,8 +22,7 @@ std::optional<int64_t> loadedEntry(const mpv_event& event) {
 
 }  // namespace
 
-std::shared_ptr<MpvSession> MpvSession::create(std::span<const MpvObservedProperty> observed,
-                                               const MpvOptions& extra) {
+std::shared_ptr<MpvSession> MpvSession::create(std::span<const MpvObservedProperty> observed, const MpvOptions& extra) {
     MpvCore core = createMpvCore(extra);
     if (!core) return nullptr;
     return std::make_shared<MpvSession>(std::move(core), observed);
