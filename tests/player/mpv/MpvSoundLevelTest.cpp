@@ -55,15 +55,17 @@ class MpvSoundLevelTest : public ::testing::Test {
 protected:
     std::filesystem::path wav() const { return std::filesystem::path(dir_.path().toStdString()) / "sound.wav"; }
 
-    // Plays the 3 s tone to its end at this volume and mute, then a second time after `between`
-    // has changed the player. Returns what mpv wrote, once it has closed the file.
-    std::vector<int16_t> play(float volume, bool muted, const std::function<void(MediaPlayer&)>& between = {}) {
+    // Plays the 3 s tone to its end at this volume and mute (unless left as the player starts),
+    // then a second time after `between` has changed the player. Returns what mpv wrote, once it
+    // has closed the file.
+    std::vector<int16_t> play(std::optional<float> volume, std::optional<bool> muted,
+                              const std::function<void(MediaPlayer&)>& between = {}) {
         auto player = factory_.playerWithURL(testClip("tone.m4a"));
         EXPECT_NE(player, nullptr);
         if (!player) return {};
         const MpvCore core = dynamic_cast<MpvRenderSource&>(*player).renderCore();
-        player->setVolume(volume);
-        player->setMuted(muted);
+        if (volume) player->setVolume(*volume);
+        if (muted) player->setMuted(*muted);
         const auto toTheEnd = [&] {
             player->play();
             EXPECT_TRUE(runUntil([&] { return player->currentTime() == player->duration() && isAtRest(*player); }));
@@ -109,6 +111,13 @@ TEST_F(MpvSoundLevelTest, MuteSilencesAndUnmuteBringsTheLevelBack) {
     const std::vector<int16_t> unmuted = play(0.5f, true, [](MediaPlayer& player) { player.setMuted(false); });
     EXPECT_EQ(rms(unmuted, 0.05, 0.4), 0.0);
     EXPECT_NEAR(decibels(rms(unmuted, 0.6, 0.9) / half), 0.0, 0.2);
+}
+
+TEST_F(MpvSoundLevelTest, ANewPlayerPlaysAtItsOwnVolumeNotTheOneBefore) {
+    const double full = rms(play(1.0f, false), 0.25, 0.75);
+    ASSERT_GT(full, 0.05);
+    play(0.125f, true);
+    EXPECT_NEAR(decibels(rms(play(std::nullopt, std::nullopt), 0.25, 0.75) / full), 0.0, 0.2);
 }
 
 }  // namespace
