@@ -3,6 +3,7 @@
 #include "MediaPlayer.h"
 #include "MpvLogging.h"
 #include "MpvRenderSource.h"
+#include "VideoRendererChoice.h"
 
 #include <mpv/render_gl.h>
 
@@ -20,6 +21,7 @@ void* getProcAddress(void*, const char* name) {
 
 GLVideoSurface::GLVideoSurface(QWidget* parent) : QOpenGLWidget(parent), binding_(this, [this] { onMpvUpdate(); }) {
     connect(this, &QOpenGLWidget::frameSwapped, this, [this] {
+        // Also after black frames: once told of swaps, mpv waits for each one before going on.
         if (binding_.context()) mpv_render_context_report_swap(binding_.context());
     });
 }
@@ -33,9 +35,14 @@ GLVideoSurface::~GLVideoSurface() {
 void GLVideoSurface::setPlayer(MediaPlayer* player) {
     MpvRenderSource* source = dynamic_cast<MpvRenderSource*>(player);
     if (source == source_) return;
-    detach();
+    // The render context stays for every movie of its core; black while no player is shown.
+    newFrame_ = false;
+    awaitingFirstFrame_ = true;
     source_ = source;
-    attach();
+    if (source_ && source_->renderCore() != binding_.core()) {
+        detach();
+        attach();
+    }
     update();
 }
 
@@ -56,8 +63,23 @@ void GLVideoSurface::attach() {
         {MPV_RENDER_PARAM_OPENGL_INIT_PARAMS, &glInit},
         {MPV_RENDER_PARAM_INVALID, nullptr},
     };
-    binding_.attach(*source_, params);
+    const MpvCore core = source_->renderCore();
+    const bool gpu = core && onRealGPU();
+    // The decoders' interop is loaded when the render context is made, so it is allowed first.
+    if (gpu) mpv_set_property_string(core.get(), "gpu-hwdec-interop", "auto");
+    if (binding_.attach(*source_, params) && gpu) {
+        // Dash-camera clips are often 4K: decode on the GPU where mpv has a decoder it trusts
+        // for them, on the CPU otherwise.
+        const char* hwdec = "auto-safe";
+        mpv_set_property_async(core.get(), 0, "hwdec", MPV_FORMAT_STRING, &hwdec);
+    }
     doneCurrent();
+}
+
+bool GLVideoSurface::onRealGPU() const {
+    // A CPU rasteriser has no video decoder.
+    const auto* renderer = reinterpret_cast<const char*>(context()->functions()->glGetString(GL_RENDERER));
+    return renderer && !isSoftwareGLRenderer(renderer);
 }
 
 void GLVideoSurface::detach() {
@@ -73,16 +95,35 @@ void GLVideoSurface::onMpvUpdate() {
     makeCurrent();
     if (mpv_render_context_update(binding_.context()) & MPV_RENDER_UPDATE_FRAME) {
         const bool newFrame = binding_.nextIsNewFrame();
-        if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
-        newFrame_ = newFrame_ || newFrame;
+        if (newFrame && source_ && source_->fileStarted()) awaitingFirstFrame_ = false;
+        if (showsPicture()) {
+            if (newFrame && newFrame_) qCDebug(lcVideoSurface) << "a frame was replaced before it was painted";
+            newFrame_ = newFrame_ || newFrame;
+        } else {
+            discardFrame();
+        }
     }
     doneCurrent();
     update();
 }
 
+void GLVideoSurface::discardFrame() {
+    // mpv holds its video output until the frame it handed over is rendered (for up to a fifth of
+    // a second), so a frame of the movie before is rendered into a corner that paintGL clears.
+    mpv_opengl_fbo fbo{static_cast<int>(defaultFramebufferObject()), 16, 16, 0};
+    int block = 0;
+    mpv_render_param params[]{
+        {MPV_RENDER_PARAM_OPENGL_FBO, &fbo},
+        {MPV_RENDER_PARAM_BLOCK_FOR_TARGET_TIME, &block},
+        {MPV_RENDER_PARAM_INVALID, nullptr},
+    };
+    mpv_render_context_render(binding_.context(), params);
+}
+
 void GLVideoSurface::paintGL() {
     mpv_render_context* context = binding_.context();
-    if (!context) {
+    if (!context || !showsPicture()) {
+        if (context) discardFrame();
         QOpenGLFunctions* gl = QOpenGLContext::currentContext()->functions();
         gl->glClearColor(0, 0, 0, 1);
         gl->glClear(GL_COLOR_BUFFER_BIT);

@@ -40,8 +40,10 @@ constexpr auto kOptions = std::to_array<Option>({
     // Frames are handed to the surface when they are due, so rendering never has to wait for
     // a frame's display time on the GUI thread.
     {"video-timing-offset", "0"},
-    // Decoding is done on the CPU; probing the GPU decoders' interop (CUDA, VA-API) at every new
-    // render context costs time and prints complaints where they are missing.
+    // Decoding on the CPU until an OpenGL surface on a real GPU asks for more (GLVideoSurface):
+    // probing GPU decoders and their interop where there are none costs time and prints the
+    // drivers' complaints.
+    {"hwdec", "no"},
     {"gpu-hwdec-interop", "no"},
 });
 
@@ -57,7 +59,7 @@ bool setOption(mpv_handle* handle, const char* name, const char* value) {
 
 }  // namespace
 
-MpvCore createMpvCore() {
+MpvCore createMpvCore(const MpvOptions& extra) {
     // libmpv refuses to start unless numbers are formatted the C way, and QApplication has just
     // set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
@@ -69,6 +71,7 @@ MpvCore createMpvCore() {
     for (const auto& [name, value] : kOptions) setOption(core.get(), name, value);
     if (const char* audioOutput = std::getenv("DASHTRACK_AUDIO_OUTPUT"); audioOutput && *audioOutput)
         setOption(core.get(), "ao", audioOutput);
+    for (const auto& [name, value] : extra) setOption(core.get(), name.c_str(), value.c_str());
     if (const int error = mpv_initialize(core.get()); error < 0) {
         qCWarning(lcMpv) << "mpv_initialize failed:" << mpv_error_string(error);
         return {};

@@ -1,5 +1,5 @@
 #include "MpvLogging.h"
 
-Q_LOGGING_CATEGORY(lcMpv, "dashtrack.mpv")
+Q_LOGGING_CATEGORY(lcMpv, "dashtrack.mpv", QtWarningMsg)
 Q_LOGGING_CATEGORY(lcMpvStats, "dashtrack.mpv.stats", QtWarningMsg)
-Q_LOGGING_CATEGORY(lcVideoSurface, "dashtrack.videosurface")
+Q_LOGGING_CATEGORY(lcVideoSurface, "dashtrack.videosurface", QtWarningMsg)

@@ -1,6 +1,7 @@
 #pragma once
-// Log categories of the mpv player. "dashtrack.mpv.stats" is off by default; turn it on with
-// QT_LOGGING_RULES="dashtrack.mpv.stats.info=true" to log first-frame times and dropped frames.
+// Log categories of the mpv player; only warnings show unless QT_LOGGING_RULES says otherwise.
+// "dashtrack.mpv.debug=true" shows mpv's own messages; "dashtrack.mpv.stats.info=true" logs
+// first-frame times and dropped frames.
 
 #include <QLoggingCategory>
 

@@ -4,8 +4,6 @@
 
 #include <mpv/client.h>
 
-#include <QMetaObject>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -30,37 +28,43 @@ bool stringIs(const mpv_event_property& property, const char* text) {
 }
 
 struct ObservedProperty {
-    const char* name;
-    mpv_format format;
+    MpvObservedProperty property;
     void (*apply)(MpvPlaybackState& state, const mpv_event_property& property);
 };
 
 // Every property the player follows, by slot; a notification's reply id is its slot.
 constexpr std::array<ObservedProperty, MpvMediaPlayer::kObservedCount> kObserved{{
-    {"pause", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.paused = flagOf(p); }},
-    {"core-idle", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.coreIdle = flagOf(p); }},
-    {"seeking", MPV_FORMAT_FLAG, [](MpvPlaybackState& s, const mpv_event_property& p) { s.seeking = flagOf(p); }},
-    {"eof-reached", MPV_FORMAT_FLAG,
+    {{"pause", MPV_FORMAT_FLAG}, [](MpvPlaybackState& s, const mpv_event_property& p) { s.paused = flagOf(p); }},
+    {{"core-idle", MPV_FORMAT_FLAG}, [](MpvPlaybackState& s, const mpv_event_property& p) { s.coreIdle = flagOf(p); }},
+    {{"seeking", MPV_FORMAT_FLAG}, [](MpvPlaybackState& s, const mpv_event_property& p) { s.seeking = flagOf(p); }},
+    {{"eof-reached", MPV_FORMAT_FLAG},
      [](MpvPlaybackState& s, const mpv_event_property& p) { s.eofReached = flagOf(p); }},
-    {"play-dir", MPV_FORMAT_STRING,
+    {{"play-dir", MPV_FORMAT_STRING},
      [](MpvPlaybackState& s, const mpv_event_property& p) { s.backward = stringIs(p, "backward"); }},
-    {"speed", MPV_FORMAT_DOUBLE,
+    {{"speed", MPV_FORMAT_DOUBLE},
      [](MpvPlaybackState& s, const mpv_event_property& p) { s.speed = doubleOf(p).value_or(s.speed); }},
     // Unavailable while a file opens or a seek settles: the last position stands until a new one.
-    {"time-pos", MPV_FORMAT_DOUBLE,
+    {{"time-pos", MPV_FORMAT_DOUBLE},
      [](MpvPlaybackState& s, const mpv_event_property& p) {
          if (const auto seconds = doubleOf(p)) s.position = seconds;
      }},
 }};
 
 enum Slot : std::size_t { Pause, CoreIdle, Seeking, EofReached, PlayDirection, Speed, TimePos };
-static_assert(std::string_view(kObserved[PlayDirection].name) == "play-dir");
-static_assert(std::string_view(kObserved[TimePos].name) == "time-pos");
+static_assert(std::string_view(kObserved[PlayDirection].property.name) == "play-dir");
+static_assert(std::string_view(kObserved[TimePos].property.name) == "time-pos");
 
-// Reply ids of our own requests, above the observed slots.
+constexpr std::array<MpvObservedProperty, MpvMediaPlayer::kObservedCount> kObservedProperties = [] {
+    std::array<MpvObservedProperty, MpvMediaPlayer::kObservedCount> properties{};
+    for (std::size_t slot = 0; slot < properties.size(); ++slot) properties[slot] = kObserved[slot].property;
+    return properties;
+}();
+
+// Codes of our own requests, above the observed slots.
 constexpr uint64_t kWriteReply = 0x100;       // | slot: a property write
 constexpr uint64_t kUnobservedReply = 0x200;  // writes of properties the player does not follow
 constexpr uint64_t kSeekReply = 0x300;
+static_assert(kSeekReply < MpvSession::kLoadCode);
 
 bool isSlotReply(uint64_t reply, uint64_t base) {
     return reply >= base && reply < base + MpvMediaPlayer::kObservedCount;
@@ -74,70 +78,58 @@ std::string secondsText(double seconds) {
 
 }  // namespace
 
-MpvMediaPlayer::MpvMediaPlayer(MpvCore core, std::filesystem::path file, MovieInfo info, QElapsedTimer sinceRequested)
-    : core_(std::move(core)), file_(std::move(file)), info_(info), sinceRequested_(sinceRequested) {
+MpvMediaPlayer::MpvMediaPlayer(std::shared_ptr<MpvSession> session, std::filesystem::path file, MovieInfo info,
+                               QElapsedTimer sinceRequested)
+    : session_(std::move(session)), file_(std::move(file)), info_(info), sinceRequested_(sinceRequested) {
     if (!sinceRequested_.isValid()) sinceRequested_.start();
-    for (std::size_t slot = 0; slot < kObserved.size(); ++slot)
-        mpv_observe_property(core_.get(), slot, kObserved[slot].name, kObserved[slot].format);
-    mpv_set_wakeup_callback(core_.get(), &MpvMediaPlayer::wakeUp, this);
-    QMetaObject::invokeMethod(
-        this, [this] { load(); }, Qt::QueuedConnection);
+    session_->attach(*this);
+    // The core keeps what the movie before left behind; this one starts paused, forward, at
+    // normal speed, with its sound, at its own volume.
+    writeFlag(Pause, true);
+    writeString(PlayDirection, "forward");
+    writeDouble(Speed, 1.0);
+    setAudioTrack("auto");
+    setVolume(volume_);
+    setMuted(muted_);
+    session_->load(file_.string());
 }
 
 MpvMediaPlayer::~MpvMediaPlayer() {
-    // Once this returns mpv runs the callback no more, so no call can reach a dead player.
-    mpv_set_wakeup_callback(core_.get(), nullptr, nullptr);
     logStats();
-    // A surface may keep the core a little longer than this player; it must not go on playing.
-    command({"stop"});
+    // The core must not go on playing this movie for a surface that still shows it.
+    session_->release(*this);
 }
 
-void MpvMediaPlayer::wakeUp(void* context) {
-    // Called on one of mpv's threads: post the work to the GUI thread, nothing more.
-    auto* self = static_cast<MpvMediaPlayer*>(context);
-    if (self->drainPosted_.exchange(true)) return;
-    QMetaObject::invokeMethod(
-        self,
-        [self] {
-            self->drainPosted_ = false;
-            self->drainEvents();
-        },
-        Qt::QueuedConnection);
+std::span<const MpvObservedProperty> MpvMediaPlayer::observedProperties() { return kObservedProperties; }
+
+double MpvMediaPlayer::mpvVolume(float gain) {
+    // mpv scales its volume cubically: at volume p its gain is (p/100)^3.
+    return 100.0 * std::cbrt(std::clamp(static_cast<double>(gain), 0.0, 1.0));
 }
 
-void MpvMediaPlayer::load() {
-    const std::string path = file_.string();
-    command({"loadfile", path.c_str()});
-}
-
-void MpvMediaPlayer::drainEvents() {
-    for (;;) {
-        const mpv_event* event = mpv_wait_event(core_.get(), 0);
-        if (event->event_id == MPV_EVENT_NONE) return;
-        handleEvent(*event);
-    }
-}
-
-void MpvMediaPlayer::handleEvent(const mpv_event& event) {
+void MpvMediaPlayer::handleEvent(const mpv_event& event, uint64_t code) {
     switch (event.event_id) {
         case MPV_EVENT_PROPERTY_CHANGE:
-            if (event.reply_userdata < kObserved.size())
-                applyProperty(event.reply_userdata, *static_cast<const mpv_event_property*>(event.data));
+            if (code < kObserved.size()) applyProperty(code, *static_cast<const mpv_event_property*>(event.data));
             break;
         case MPV_EVENT_SET_PROPERTY_REPLY:
-            if (isSlotReply(event.reply_userdata, kWriteReply))
-                writeDone(event.reply_userdata - kWriteReply, event.error);
+            if (isSlotReply(code, kWriteReply))
+                writeDone(code - kWriteReply, event.error);
             else if (event.error < 0)
-                qCWarning(lcMpv) << "setting a property failed:" << mpv_error_string(event.error);
+                qCDebug(lcMpv) << "setting a property failed:" << mpv_error_string(event.error);
             break;
         case MPV_EVENT_COMMAND_REPLY:
             if (event.error < 0) {
                 qCDebug(lcMpv) << "command failed:" << mpv_error_string(event.error);
-                if (event.reply_userdata == kSeekReply) state_.seekInFlight = false;
+                if (code == kSeekReply) state_.seekInFlight = false;
+                if (code == MpvSession::kLoadCode) state_.failed = true;
             }
             break;
         case MPV_EVENT_PLAYBACK_RESTART:
             state_.seekInFlight = false;
+            break;
+        case MPV_EVENT_START_FILE:
+            fileStarted_ = true;
             break;
         case MPV_EVENT_FILE_LOADED:
             state_.loaded = true;
@@ -149,20 +141,11 @@ void MpvMediaPlayer::handleEvent(const mpv_event& event) {
         case MPV_EVENT_END_FILE: {
             const auto* end = static_cast<const mpv_event_end_file*>(event.data);
             if (end->reason == MPV_END_FILE_REASON_ERROR) {
-                qCWarning(lcMpv) << "cannot play" << file_.c_str() << ":" << mpv_error_string(end->error);
+                // The user sees the movie not playing and can do no more about it than that.
+                qCDebug(lcMpv) << "cannot play" << file_.c_str() << ":" << mpv_error_string(end->error);
                 state_.failed = true;
                 state_.loaded = false;
             }
-            break;
-        }
-        case MPV_EVENT_LOG_MESSAGE: {
-            const auto* message = static_cast<const mpv_event_log_message*>(event.data);
-            const QString text = QString::fromUtf8(message->text).trimmed();
-            // mpv's warnings are mostly about odd but playable files; its errors are worth seeing.
-            if (message->log_level <= MPV_LOG_LEVEL_ERROR)
-                qCWarning(lcMpv).noquote() << message->prefix << text;
-            else
-                qCDebug(lcMpv).noquote() << message->prefix << text;
             break;
         }
         default:
@@ -176,51 +159,58 @@ void MpvMediaPlayer::applyProperty(std::size_t slot, const mpv_event_property& p
     kObserved[slot].apply(state_, property);
 }
 
+void MpvMediaPlayer::setProperty(const char* name, mpv_format format, void* value, uint64_t code) {
+    if (!holdsCore()) return;
+    mpv_set_property_async(session_->core().get(), session_->replyId(code), name, format, value);
+}
+
 void MpvMediaPlayer::writeFlag(std::size_t slot, bool value) {
     int flag = value ? 1 : 0;
-    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_FLAG, &flag});
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].property.name, MPV_FORMAT_FLAG, &flag});
+    if (!holdsCore()) return;
     ++pendingWrites_[slot];
-    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_FLAG, &flag);
+    setProperty(kObserved[slot].property.name, MPV_FORMAT_FLAG, &flag, kWriteReply | slot);
 }
 
 void MpvMediaPlayer::writeDouble(std::size_t slot, double value) {
-    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_DOUBLE, &value});
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].property.name, MPV_FORMAT_DOUBLE, &value});
+    if (!holdsCore()) return;
     ++pendingWrites_[slot];
-    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_DOUBLE, &value);
+    setProperty(kObserved[slot].property.name, MPV_FORMAT_DOUBLE, &value, kWriteReply | slot);
 }
 
 void MpvMediaPlayer::writeString(std::size_t slot, const char* value) {
-    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].name, MPV_FORMAT_STRING, &value});
+    kObserved[slot].apply(state_, mpv_event_property{kObserved[slot].property.name, MPV_FORMAT_STRING, &value});
+    if (!holdsCore()) return;
     ++pendingWrites_[slot];
-    mpv_set_property_async(core_.get(), kWriteReply | slot, kObserved[slot].name, MPV_FORMAT_STRING, &value);
+    setProperty(kObserved[slot].property.name, MPV_FORMAT_STRING, &value, kWriteReply | slot);
 }
 
 void MpvMediaPlayer::writeDone(std::size_t slot, int error) {
-    if (error < 0) qCWarning(lcMpv) << "setting" << kObserved[slot].name << "failed:" << mpv_error_string(error);
+    if (error < 0) qCDebug(lcMpv) << "setting" << kObserved[slot].property.name << "failed:" << mpv_error_string(error);
     if (--pendingWrites_[slot] > 0) return;
     // mpv may undo a write at once (unpausing at the end pauses again) and then tells nothing, as
-    // the value is the one it last told us. Observing afresh makes it report where it stands now;
-    // unlike a read, this never waits for the core on this thread, which also renders.
-    mpv_unobserve_property(core_.get(), slot);
-    mpv_observe_property(core_.get(), slot, kObserved[slot].name, kObserved[slot].format);
+    // the value is the one it last told us. Observing afresh makes it report where it stands now.
+    session_->reobserve(slot);
 }
 
-void MpvMediaPlayer::command(std::initializer_list<const char*> arguments, uint64_t reply) {
+void MpvMediaPlayer::command(std::initializer_list<const char*> arguments, uint64_t code) {
+    if (!holdsCore()) return;
     std::vector<const char*> list(arguments);
     list.push_back(nullptr);
-    mpv_command_async(core_.get(), reply, list.data());
+    mpv_command_async(session_->core().get(), session_->replyId(code), list.data());
 }
 
 void MpvMediaPlayer::setVolume(float volume) {
     volume_ = std::clamp(volume, 0.0f, 1.0f);
-    double percent = volume_ * 100.0;
-    mpv_set_property_async(core_.get(), kUnobservedReply, "volume", MPV_FORMAT_DOUBLE, &percent);
+    double percent = mpvVolume(volume_);
+    setProperty("volume", MPV_FORMAT_DOUBLE, &percent, kUnobservedReply);
 }
 
 void MpvMediaPlayer::setMuted(bool muted) {
     muted_ = muted;
     int flag = muted ? 1 : 0;
-    mpv_set_property_async(core_.get(), kUnobservedReply, "mute", MPV_FORMAT_FLAG, &flag);
+    setProperty("mute", MPV_FORMAT_FLAG, &flag, kUnobservedReply);
 }
 
 void MpvMediaPlayer::setRate(float rate) {
@@ -241,7 +231,7 @@ void MpvMediaPlayer::setRate(float rate) {
 }
 
 void MpvMediaPlayer::setAudioTrack(const char* track) {
-    mpv_set_property_async(core_.get(), kUnobservedReply, "aid", MPV_FORMAT_STRING, &track);
+    setProperty("aid", MPV_FORMAT_STRING, &track, kUnobservedReply);
 }
 
 void MpvMediaPlayer::pause() {
@@ -250,7 +240,8 @@ void MpvMediaPlayer::pause() {
 
 void MpvMediaPlayer::seek(MediaTime time) {
     if (!time.isValid()) return;
-    const double seconds = time.seconds();
+    // mpv counts a negative absolute time from the end; before the start is the start.
+    const double seconds = std::max(time.seconds(), 0.0);
     if (!state_.loaded) {
         pendingSeek_ = seconds;
         return;
@@ -275,11 +266,11 @@ void MpvMediaPlayer::frameShown() {
 }
 
 void MpvMediaPlayer::logStats() const {
-    if (!lcMpvStats().isInfoEnabled()) return;
+    if (!lcMpvStats().isInfoEnabled() || !holdsCore()) return;
     int64_t decoderDrops = 0;
     int64_t outputDrops = 0;
-    mpv_get_property(core_.get(), "frame-drop-count", MPV_FORMAT_INT64, &decoderDrops);
-    mpv_get_property(core_.get(), "vo-drop-frame-count", MPV_FORMAT_INT64, &outputDrops);
+    mpv_get_property(session_->core().get(), "frame-drop-count", MPV_FORMAT_INT64, &decoderDrops);
+    mpv_get_property(session_->core().get(), "vo-drop-frame-count", MPV_FORMAT_INT64, &outputDrops);
     qCInfo(lcMpvStats).noquote() << QStringLiteral(
                                         "file=%1 first-frame-ms=%2 frames-shown=%3 decoder-drops=%4 output-drops=%5")
                                         .arg(QString::fromStdString(file_.filename().string()))

@@ -1,7 +1,7 @@
 #pragma once
-// A surface's hold on one player's frames: a render context on the player's core, a share of that
-// core so that the context is always freed first, and mpv's update requests carried over to the
-// surface's thread.
+// A surface's hold on a core's frames: a render context on the core, a share of that core so that
+// the context is always freed first, and mpv's update requests carried over to the surface's
+// thread. Made once per core, it serves every movie played on it.
 
 #include "MpvCore.h"
 
@@ -35,6 +35,8 @@ public:
     void release();
 
     mpv_render_context* context() const { return context_.get(); }
+    // The core of the context, null when there is none.
+    const MpvCore& core() const { return core_; }
     // Whether what mpv will render next is a new video frame rather than a redraw of the last one.
     bool nextIsNewFrame() const;
 

@@ -25,10 +25,15 @@ private:
     void onMpvUpdate();
     // Renders mpv's current frame, letterboxed, at the widget's size in device pixels.
     void renderFrame();
+    void discardFrame();
+    bool renderInto(FrameBuffer& target);
 
     MpvRenderSource* source_ = nullptr;
     MpvRenderBinding binding_;
     FrameBuffer frame_;
+    FrameBuffer scratch_;
     bool hasFrame_ = false;
     bool newFrame_ = false;
+    // Until the first new frame of the player's file, what the core renders is of the movie before.
+    bool awaitingFirstFrame_ = true;
 };

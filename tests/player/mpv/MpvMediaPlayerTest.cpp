@@ -124,6 +124,25 @@ TEST_F(MpvMediaPlayerTest, SeeksLandWhereAsked) {
     EXPECT_LT(seconds(*player), 8.0);
 }
 
+TEST_F(MpvMediaPlayerTest, ATimeBeforeTheStartSeeksToTheStart) {
+    // Before the file has opened, from the middle while paused, and while playing.
+    auto player = open(kMovie);
+    player->seek(MediaTime::make(-60, 100));
+    runFor(30);
+    ASSERT_TRUE(runUntil([&] { return settledAt(*player, 0.0, 0.05); })) << seconds(*player);
+    ASSERT_TRUE(seekAndSettle(*player, 5.0));
+    player->seek(MediaTime::make(-1, 100));
+    EXPECT_EQ(seconds(*player), 0.0);
+    runFor(30);
+    ASSERT_TRUE(runUntil([&] { return settledAt(*player, 0.0, 0.05); })) << seconds(*player);
+    player->play();
+    ASSERT_TRUE(runUntil([&] { return seconds(*player) > 1.0; }));
+    player->seek(MediaTime::make(-500, 100));
+    runFor(30);
+    ASSERT_TRUE(runUntil([&] { return player->timeControlStatus() == PlayerStatus::Playing; }));
+    EXPECT_LT(seconds(*player), 1.5);
+}
+
 TEST_F(MpvMediaPlayerTest, DoubleRatePlaysForward) {
     auto player = open(kMovie);
     player->setRate(2.0f);

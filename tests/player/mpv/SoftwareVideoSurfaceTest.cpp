@@ -81,4 +81,29 @@ TEST_F(SoftwareVideoSurfaceTest, AnEmptyPlayerBlanksThePicture) {
     EXPECT_EQ(brightness(picture(), surface_.rect()), 0.0);
 }
 
+TEST_F(SoftwareVideoSurfaceTest, ShowsTheNextMovieAfterAChange) {
+    // The engine's change: the old player paused, an empty one shown, the old one dropped, the
+    // next one shown. The surface goes black, then shows the next movie's first frame.
+    auto player = factory_.playerWithURL(testClip("av.mp4"));
+    ASSERT_NE(player, nullptr);
+    surface_.setPlayer(player.get());
+    player->play();
+    ASSERT_TRUE(runUntil([&] { return player->currentTime().seconds() > 1.5 && middle() > 30.0; }));
+    player->pause();
+    runFor(5);
+    const QImage old = picture();
+    auto empty = factory_.emptyPlayer();
+    surface_.setPlayer(empty.get());
+    player.reset();
+    auto next = factory_.playerWithURL(testClip("video_only.mov"));
+    ASSERT_NE(next, nullptr);
+    surface_.setPlayer(next.get());
+    EXPECT_EQ(brightness(picture(), surface_.rect()), 0.0);
+    ASSERT_TRUE(runUntil([&] { return middle() > 30.0; }));
+    EXPECT_NE(picture(), old);
+    const QImage first = picture();
+    next->play();
+    ASSERT_TRUE(runUntil([&] { return picture() != first; }));
+}
+
 }  // namespace
