@@ -60,7 +60,7 @@ protected:
     // has closed the file.
     std::vector<int16_t> play(std::optional<float> volume, std::optional<bool> muted,
                               const std::function<void(MediaPlayer&)>& between = {}) {
-        auto player = factory_.playerWithURL(testClip("tone.m4a"));
+        auto player = factory_.playerWithURL(testClip("tone.mp4"));
         EXPECT_NE(player, nullptr);
         if (!player) return {};
         const MpvCore core = dynamic_cast<MpvRenderSource&>(*player).renderCore();
