@@ -1,0 +1,3 @@
+#include "GPSControlView.h"
+
+GPSControlView::GPSControlView(QWidget* parent) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }

@@ -1,0 +1,3 @@
+#include "GPSTableView.h"
+
+GPSTableView::GPSTableView(QWidget* parent) : QTableView(parent) {}
