@@ -1,0 +1,63 @@
+#include "GPSInfoPanel.h"
+
+#include "GPSData.h"
+#include "GPSUtils.h"
+#include "LEDFontManager.h"
+
+#include <initializer_list>
+
+namespace {
+
+void write(QLabel* label, const std::string& text) {
+    if (label != nullptr) label->setText(QString::fromStdString(text));
+}
+
+void setFont(std::initializer_list<QLabel*> labels, qreal pointSize) {
+    const QFont font = LEDFont(pointSize);
+    for (QLabel* label : labels)
+        if (label != nullptr) label->setFont(font);
+}
+
+}  // namespace
+
+GPSInfoPanel::GPSInfoPanel(const GPSInfoPanelLabels& labels, const GPSUtils& settings)
+    : txtSpeed_(labels.txtSpeed),
+      txtSpeedUnit_(labels.txtSpeedUnit),
+      lblLatitude_(labels.lblLatitude),
+      txtLatitude_(labels.txtLatitude),
+      lblLongitude_(labels.lblLongitude),
+      txtLongitude_(labels.txtLongitude),
+      lblDate_(labels.lblDate),
+      txtDate_(labels.txtDate),
+      lblTime_(labels.lblTime),
+      txtTime_(labels.txtTime),
+      txtMapView_(labels.txtMapView),
+      settings_(settings) {}
+
+void GPSInfoPanel::setupFonts() const {
+    setFont({txtSpeed_}, speedPointSize);
+    setFont({lblLatitude_, txtLatitude_, lblLongitude_, txtLongitude_}, positionPointSize);
+    setFont({lblDate_, txtDate_, lblTime_, txtTime_}, dateTimePointSize);
+}
+
+void GPSInfoPanel::show(const GPSData& data) const {
+    write(txtSpeed_, data.SpeedText());
+    write(txtLongitude_, data.LongitudeText());
+    write(txtLatitude_, data.LatitudeText());
+    write(txtDate_, data.DateText());
+    write(txtTime_, data.TimeText());
+}
+
+void GPSInfoPanel::reset() const {
+    write(txtSpeed_, idleSpeedText);
+    write(txtLatitude_, idleCoordinateText);
+    write(txtLongitude_, idleCoordinateText);
+    write(txtDate_, idleDateText);
+    write(txtTime_, idleTimeText);
+    write(txtMapView_, "");
+}
+
+void GPSInfoPanel::refreshUnits(const std::string& speedText) const {
+    write(txtSpeedUnit_, settings_.SpeedUnitName());
+    write(txtSpeed_, speedText);
+}
