@@ -93,14 +93,6 @@ TEST_F(GPSInfoPanelTest, ASampleFillsTheFiveReadOutsWithItsOwnTexts) {
     expectUntouchedExcept({"txtSpeed", "txtLatitude", "txtLongitude", "txtDate", "txtTime"});
 }
 
-TEST_F(GPSInfoPanelTest, ASampleShowsTheSpeedInTheUnitChosenNow) {
-    const GPSInfoPanel panel(outlets(), settings());
-    settings().setUnitType(1);
-    panel.show(sample());
-    EXPECT_EQ(text("txtSpeed"), sample().SpeedKMHText());
-    EXPECT_NE(text("txtSpeed"), sample().SpeedMPHText());
-}
-
 TEST_F(GPSInfoPanelTest, ResetWritesTheIdleTextsAndEmptiesTheMapText) {
     const GPSInfoPanel panel(outlets(), settings());
     panel.show(sample());
