@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QSlider>
 #include <QTemporaryDir>
 
@@ -253,6 +254,18 @@ TEST_F(MainWindowTest, OnlyTheFirstActivationSetsTheControlsUp) {
     activate();
     EXPECT_EQ(o.volumeSlider->value(), 37);
     EXPECT_FALSE(o.unitKMH->isChecked());
+}
+
+TEST_F(MainWindowTest, AboutOpensWithoutBlockingAndHidesAgain) {
+    window_.show();
+    // Returns at once: a blocking dialog would hang this test (and stop the window's events).
+    action("actionAbout")->trigger();
+    auto* about = window_.findChild<QMessageBox*>(QStringLiteral("aboutView"));
+    ASSERT_NE(about, nullptr);
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_TRUE(about->text().contains(QStringLiteral("Dashtrack")));
+    window_.controller().OnHideAbout();
+    EXPECT_FALSE(about->isVisible());
 }
 
 TEST_F(MainWindowTest, EveryControlStaysOnScreenAtTheSmallestSize) {
