@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
-# End-to-end check of the player window: under a virtual X display, plays a movie with each video
+# End-to-end check of the main window: under a virtual X display, plays a movie with each video
 # renderer, takes two screenshots a second apart and checks that the window shows a picture (not
 # black) that moves, and that the player printed nothing. The movie is played from a copy whose
-# name is not UTF-8, as a Linux file name may be. The screenshots stay in OUT_DIR for a look.
+# name is not UTF-8, as a Linux file name may be. With the OpenGL renderer it also shows the window
+# at its usual and its smallest size (window-1280x800.png, window-1024x640.png). The screenshots
+# stay in OUT_DIR for a look.
 #
 #   scripts/e2e-player-window.sh DASHTRACK_BINARY MOVIE OUT_DIR
 set -euo pipefail
@@ -36,6 +38,16 @@ stop_app() {
 }
 xvfb_on_exit stop_app
 
+# The window at the size it opens with and at its minimum, the movie playing.
+shoot_sizes() {
+  local window=$1 size
+  for size in 1280x800 1024x640; do
+    xdotool windowsize "$window" "${size%x*}" "${size#*x}"
+    sleep 1
+    import -display "$DISPLAY" -window "$window" "$out/window-$size.png"
+  done
+}
+
 check_renderer() {
   local renderer=$1 window geometry mean changed
   echo "e2e: $renderer renderer on $DISPLAY"
@@ -53,6 +65,7 @@ check_renderer() {
   import -display "$DISPLAY" -window root "$out/$renderer-1.png"
   sleep 1
   import -display "$DISPLAY" -window root "$out/$renderer-2.png"
+  if [ "$renderer" = gl ]; then shoot_sizes "$window"; fi
   if ! kill -0 "$app_pid" 2>/dev/null; then
     echo "e2e: FAIL ($renderer): the player exited early" >&2
     cat "$out/$renderer.log" >&2

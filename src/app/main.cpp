@@ -1,37 +1,65 @@
-// dashtrack: a window that plays one movie with its GPS track.
+// dashtrack: the main window, with the movies named on the command line.
 
 #include "FFmpegVideoTrackProbe.h"
+#include "GPSPlayerView.h"
 #include "GPSUtils.h"
+#include "MainWindow.h"
 #include "MovieArguments.h"
-#include "PlayerWindow.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFile>
+#include <QLabel>
 
 #include <clocale>
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+// Plays the first movie file given; folders wait for the playlist's folder scan.
+void openArguments(MainWindow& window, const std::vector<std::filesystem::path>& movies) {
+    for (const auto& movie : movies) {
+        std::error_code error;
+        if (!std::filesystem::is_regular_file(movie, error)) continue;
+        const MainWindowOutlets& outlets = window.controller().outlets();
+        outlets.player->engine().setMovie(movie);
+        outlets.txtTitle->setText(QFile::decodeName(movie.c_str()));
+        outlets.player->engine().Resume();
+        return;
+    }
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Dashtrack"));
     // libmpv needs C number formatting; QApplication has just set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
-    GPSUtils::sharedUtils().setVideoTrackProbe(defaultVideoTrackProbe());
+    GPSUtils& settings = GPSUtils::sharedUtils();
+    settings.setVideoTrackProbe(defaultVideoTrackProbe());
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Plays a dash camera movie with its GPS track."));
+    parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("movie"), QStringLiteral("The movie to play."));
+    parser.addPositionalArgument(QStringLiteral("movies"), QStringLiteral("Movie files or folders of movies."),
+                                 QStringLiteral("[FILE|FOLDER]..."));
     const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),
-                                       QStringLiteral("Quit once the movie has played to its end."));
+                                       QStringLiteral("Quit once a movie has played to its end."));
     parser.addOption(quitAtEnd);
     parser.process(app);
 
-    PlayerWindow window({.quitAtEnd = parser.isSet(quitAtEnd)});
+    MainWindow window(settings);
+    window.controller().setQuitAtEnd(parser.isSet(quitAtEnd));
     window.show();
+    // A desktop activates a new window itself; without a window manager (a bare X server) nobody
+    // would, and the window's set-up waits for its first activation.
+    window.activateWindow();
     // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
-    if (const auto movies = movieArguments(argc, argv); !movies.empty()) window.play(movies.front());
+    openArguments(window, movieArguments(argc, argv));
     const int status = QApplication::exec();
     // Settings are written in the background; the last change must be on disk before we go.
-    GPSUtils::sharedUtils().flush();
+    settings.flush();
     return status;
 }

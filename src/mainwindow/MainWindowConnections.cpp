@@ -1,0 +1,99 @@
+#include "MainWindowConnections.h"
+
+#include "GPSControlView.h"
+#include "GPSPlayControl.h"
+#include "GPSTableView.h"
+#include "MainWindowDelegate.h"
+#include "ui_MainWindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QSlider>
+
+#include <utility>
+
+namespace {
+
+using Handler = void (MainWindowDelegate::*)(QObject*);
+
+// A button sends its handler with itself as the sender.
+void connectButton(QAbstractButton* button, MainWindowDelegate& controller, Handler handler) {
+    QObject::connect(button, &QAbstractButton::clicked, &controller,
+                     [button, &controller, handler] { (controller.*handler)(button); });
+}
+
+void connectSlider(QSlider* slider, MainWindowDelegate& controller, Handler handler) {
+    // valueChanged comes only from the user: the program moves the sliders without signals.
+    QObject::connect(slider, &QSlider::valueChanged, &controller,
+                     [slider, &controller, handler] { (controller.*handler)(slider); });
+}
+
+void connectMenuItem(QAction* action, MainWindowDelegate& controller, Handler handler) {
+    QObject::connect(action, &QAction::triggered, &controller,
+                     [action, &controller, handler] { (controller.*handler)(action); });
+}
+
+}  // namespace
+
+void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
+    MainWindowDelegate* c = &controller;
+    const std::pair<QAbstractButton*, Handler> buttons[] = {
+        {ui.btPrev, &MainWindowDelegate::OnPrev},
+        {ui.btBackward, &MainWindowDelegate::OnBackward},
+        {ui.btPlay, &MainWindowDelegate::OnPlay},
+        {ui.btPause, &MainWindowDelegate::OnPause},
+        {ui.btForward, &MainWindowDelegate::OnForward},
+        {ui.btNext, &MainWindowDelegate::OnNext},
+        {ui.btStop, &MainWindowDelegate::OnStop},
+        {ui.btSnapshot, &MainWindowDelegate::OnSnapshot},
+        {ui.btToggleFullscreen, &MainWindowDelegate::OnToggleFullscreen},
+        // Only the shown one of the two can be clicked; each leads to the other state.
+        {ui.btSound, &MainWindowDelegate::OnMute},
+        {ui.btMute, &MainWindowDelegate::OnSound},
+    };
+    for (const auto& [button, handler] : buttons) connectButton(button, controller, handler);
+    connectSlider(ui.durationSlider, controller, &MainWindowDelegate::OnDurationChanged);
+    connectSlider(ui.volumeSlider, controller, &MainWindowDelegate::OnVolumeChanged);
+
+    QObject::connect(ui.playListView, &QAbstractItemView::doubleClicked, c,
+                     [c, table = ui.playListView] { c->OnDoubleClickMediaItem(table); });
+
+    const std::pair<QAction*, Handler> fileItems[] = {
+        {ui.actionOpen, &MainWindowDelegate::OnOpenMediaFile},
+        {ui.actionRemove, &MainWindowDelegate::OnRemoveMediaFile},
+        {ui.actionSnapshot, &MainWindowDelegate::OnSnapshot},
+        {ui.actionPreferences, &MainWindowDelegate::OnPreference},
+    };
+    for (const auto& [action, handler] : fileItems) connectMenuItem(action, controller, handler);
+    // Quitting closes the window, which is what ends the program.
+    QObject::connect(ui.actionQuit, &QAction::triggered, ui.controlView->window(), &QWidget::close);
+
+    // The playback items send the key's play control code the way a key press does, guards included.
+    const std::pair<QAction*, GPSPlayControl> playbackItems[] = {
+        {ui.actionPlayPause, GPSPlayControlPlayPause},
+        {ui.actionStop, GPSPlayControlStop},
+        {ui.actionBackward, GPSPlayControlBackward},
+        {ui.actionForward, GPSPlayControlForward},
+        {ui.actionPrev, GPSPlayControlPrev},
+        {ui.actionNext, GPSPlayControlNext},
+        {ui.actionSpeedUp, GPSPlayControlSpeedUp},
+        {ui.actionSpeedDown, GPSPlayControlSpeedDown},
+        {ui.actionVolumeUp, GPSPlayControlVolumeUp},
+        {ui.actionVolumeDown, GPSPlayControlVolumeDown},
+        {ui.actionToggleFullscreen, GPSPlayControlToggleFullscreen},
+    };
+    for (const auto& [action, code] : playbackItems) {
+        action->setData(QVariant::fromValue<qulonglong>(code));
+        QObject::connect(action, &QAction::triggered, c, [view = ui.controlView, code] {
+            if (GPSControlViewDelegate* delegate = view->delegate()) delegate->didPerformPlayControl(view, code);
+        });
+    }
+
+    // The tags are the stored unit types.
+    ui.unitKMH->setData(QVariant::fromValue<qulonglong>(1));
+    ui.unitMPH->setData(QVariant::fromValue<qulonglong>(0));
+    for (QAction* unit : {ui.unitKMH, ui.unitMPH})
+        QObject::connect(unit, &QAction::triggered, c, [c, unit] { c->OnUnitChanged(unit); });
+
+    QObject::connect(ui.actionAbout, &QAction::triggered, c, [c] { c->OnShowAbout(); });
+}

@@ -1,0 +1,59 @@
+#pragma once
+// The main window's items that the controller works with, by the names the window's interface
+// description gives them. Non-owning: the window owns them all; null means not connected.
+
+class GPSPlayerView;
+class GPSTableView;
+class QAbstractButton;
+class QAction;
+class QLabel;
+class QMainWindow;
+class QSlider;
+class QWidget;
+
+struct MainWindowOutlets {
+    QMainWindow* window = nullptr;
+    GPSPlayerView* player = nullptr;
+    GPSTableView* playListView = nullptr;
+    QWidget* mapView = nullptr;
+
+    QLabel* txtTitle = nullptr;
+    // Both run from 0 to 1 through sliderFraction / setSliderFraction.
+    QSlider* durationSlider = nullptr;
+    QSlider* volumeSlider = nullptr;
+
+    QAbstractButton* btMute = nullptr;
+    QAbstractButton* btSound = nullptr;
+    QAbstractButton* btPrev = nullptr;
+    QAbstractButton* btBackward = nullptr;
+    QAbstractButton* btPlay = nullptr;
+    QAbstractButton* btPause = nullptr;
+    QAbstractButton* btForward = nullptr;
+    QAbstractButton* btNext = nullptr;
+    QAbstractButton* btStop = nullptr;
+    QAbstractButton* btSnapshot = nullptr;
+    QAbstractButton* btToggleFullscreen = nullptr;
+
+    QLabel* txtSpeed = nullptr;
+    QLabel* txtSpeedUnit = nullptr;
+    QLabel* lblLatitude = nullptr;
+    QLabel* txtLatitude = nullptr;
+    QLabel* lblLongitude = nullptr;
+    QLabel* txtLongitude = nullptr;
+    QLabel* lblDate = nullptr;
+    QLabel* txtDate = nullptr;
+    QLabel* lblTime = nullptr;
+    QLabel* txtTime = nullptr;
+    QLabel* txtMapView = nullptr;
+
+    // The unit items carry their unit type as data: 1 KM/H, 0 MPH.
+    QAction* unitKMH = nullptr;
+    QAction* unitMPH = nullptr;
+    // No behaviour: shown disabled until they have some.
+    QAction* languageChinese = nullptr;
+    QAction* languageEnglish = nullptr;
+    QAction* languageJananese = nullptr;
+    QAction* languageVietnamese = nullptr;
+    QAction* mapBaidu = nullptr;
+    QAction* mapGoogle = nullptr;
+};

@@ -1,0 +1,288 @@
+// The main window as built from its interface description: its items, names, menus, connections
+// to the controller, first activation and unit menu, under the offscreen platform.
+
+#include "GPSControlView.h"
+#include "GPSPlayControl.h"
+#include "GPSPlayerView.h"
+#include "GPSTableView.h"
+#include "GPSUtils.h"
+#include "MainWindow.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSlider>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+class PlayControlSpy : public GPSControlViewDelegate {
+public:
+    void didPerformPlayControl(QObject* sender, uint64_t playControl) override {
+        codes.push_back(playControl);
+        senders.push_back(sender);
+    }
+    std::vector<uint64_t> codes;
+    std::vector<QObject*> senders;
+};
+
+class MainWindowTest : public ::testing::Test {
+protected:
+    MainWindowTest() : settings_(settingsIn(dir_)), window_(settings_) {}
+
+    // A settings file to change: without one the store keeps its defaults.
+    static SettingsLocation settingsIn(const QTemporaryDir& dir) {
+        const std::filesystem::path file = std::filesystem::path(dir.path().toStdString()) / "Env.plist";
+        std::ofstream(file) << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+                               "<plist version=\"1.0\"><dict><key>UnitType</key><integer>0</integer>"
+                               "<key>Volume</key><real>0.5</real></dict></plist>\n";
+        return {.userFile = file, .shippedFile = std::nullopt};
+    }
+
+    QAction* action(const char* name) { return window_.findChild<QAction*>(QString::fromLatin1(name)); }
+    void activate() {
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(&window_, &activation);
+    }
+
+    QTemporaryDir dir_;
+    GPSUtils settings_;
+    MainWindow window_;
+};
+
+TEST_F(MainWindowTest, EveryOutletIsTheItemOfItsName) {
+    const MainWindowOutlets& o = window_.controller().outlets();
+    const std::pair<const char*, QObject*> outlets[] = {
+        {"player", o.player},
+        {"playListView", o.playListView},
+        {"mapView", o.mapView},
+        {"txtTitle", o.txtTitle},
+        {"durationSlider", o.durationSlider},
+        {"volumeSlider", o.volumeSlider},
+        {"btMute", o.btMute},
+        {"btSound", o.btSound},
+        {"btPrev", o.btPrev},
+        {"btBackward", o.btBackward},
+        {"btPlay", o.btPlay},
+        {"btPause", o.btPause},
+        {"btForward", o.btForward},
+        {"btNext", o.btNext},
+        {"btStop", o.btStop},
+        {"btSnapshot", o.btSnapshot},
+        {"btToggleFullscreen", o.btToggleFullscreen},
+        {"txtSpeed", o.txtSpeed},
+        {"txtSpeedUnit", o.txtSpeedUnit},
+        {"lblLatitude", o.lblLatitude},
+        {"txtLatitude", o.txtLatitude},
+        {"lblLongitude", o.lblLongitude},
+        {"txtLongitude", o.txtLongitude},
+        {"lblDate", o.lblDate},
+        {"txtDate", o.txtDate},
+        {"lblTime", o.lblTime},
+        {"txtTime", o.txtTime},
+        {"txtMapView", o.txtMapView},
+        {"unitKMH", o.unitKMH},
+        {"unitMPH", o.unitMPH},
+        {"languageChinese", o.languageChinese},
+        {"languageEnglish", o.languageEnglish},
+        {"languageJananese", o.languageJananese},
+        {"languageVietnamese", o.languageVietnamese},
+        {"mapBaidu", o.mapBaidu},
+        {"mapGoogle", o.mapGoogle},
+    };
+    for (const auto& [name, item] : outlets) {
+        ASSERT_NE(item, nullptr) << name;
+        EXPECT_EQ(item->objectName(), QString::fromLatin1(name));
+    }
+    EXPECT_EQ(o.window, &window_);
+    EXPECT_EQ(o.txtMapView->parentWidget(), o.mapView);
+}
+
+TEST_F(MainWindowTest, KeysAndDropsOfTheWholeWindowReachTheKeyHandlingView) {
+    auto* controlView = qobject_cast<GPSControlView*>(window_.centralWidget());
+    ASSERT_NE(controlView, nullptr);
+    EXPECT_TRUE(controlView->acceptDrops());
+    EXPECT_EQ(controlView->delegate(), &window_.controller());
+    const MainWindowOutlets& o = window_.controller().outlets();
+    EXPECT_EQ(o.player->controlView(), controlView);
+    EXPECT_EQ(o.playListView->controlView(), controlView);
+    EXPECT_TRUE(controlView->isAncestorOf(o.player));
+    EXPECT_TRUE(controlView->isAncestorOf(o.playListView));
+    // A focused button or slider would keep Space and the arrows from the key-handling view.
+    for (QWidget* widget : controlView->findChildren<QWidget*>()) {
+        if (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QSlider*>(widget)) {
+            EXPECT_EQ(widget->focusPolicy(), Qt::NoFocus) << widget->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(MainWindowTest, ControlsSayTheirCommandAndReadOutsWhatTheyShow) {
+    const std::pair<const char*, const char*> names[] = {
+        {"btPrev", "Previous"},     {"btBackward", "Back 10 seconds"},
+        {"btPlay", "Play"},         {"btPause", "Pause"},
+        {"btForward", "Forward 10 seconds"}, {"btNext", "Next"},
+        {"btStop", "Stop"},         {"btSnapshot", "Save snapshot"},
+        {"btToggleFullscreen", "Full screen"}, {"btMute", "Mute"},
+        {"btSound", "Sound on"},    {"durationSlider", "Position"},
+        {"volumeSlider", "Volume"}, {"playListView", "Playlist"},
+    };
+    for (const auto& [object, name] : names) {
+        auto* widget = window_.findChild<QWidget*>(QString::fromLatin1(object));
+        ASSERT_NE(widget, nullptr) << object;
+        EXPECT_EQ(widget->accessibleName(), QString::fromUtf8(name)) << object;
+    }
+    const std::pair<const char*, const char*> descriptions[] = {
+        {"txtSpeed", "Speed"}, {"txtSpeedUnit", "Speed unit"}, {"txtLatitude", "Latitude"},
+        {"txtLongitude", "Longitude"}, {"txtDate", "Date"}, {"txtTime", "Time"}, {"txtTitle", "Title"},
+    };
+    for (const auto& [object, description] : descriptions) {
+        auto* label = window_.findChild<QLabel*>(QString::fromLatin1(object));
+        ASSERT_NE(label, nullptr) << object;
+        EXPECT_EQ(label->accessibleDescription(), QString::fromUtf8(description)) << object;
+        // No name of its own: a screen reader reads the value it shows.
+        EXPECT_TRUE(label->accessibleName().isEmpty()) << object;
+    }
+}
+
+TEST_F(MainWindowTest, PlaybackItemsShowTheirKeysButSendTheCodeOnceThroughTheKeyHandlingView) {
+    auto* controlView = qobject_cast<GPSControlView*>(window_.centralWidget());
+    PlayControlSpy spy;
+    controlView->setDelegate(&spy);
+    const std::tuple<const char*, const char*, uint64_t> items[] = {
+        {"actionPlayPause", "Space", GPSPlayControlPlayPause},
+        {"actionStop", "Ctrl+Backspace", GPSPlayControlStop},
+        {"actionBackward", "Left", GPSPlayControlBackward},
+        {"actionForward", "Right", GPSPlayControlForward},
+        {"actionPrev", "Ctrl+Left", GPSPlayControlPrev},
+        {"actionNext", "Ctrl+Right", GPSPlayControlNext},
+        {"actionSpeedUp", "Ctrl+Up", GPSPlayControlSpeedUp},
+        {"actionSpeedDown", "Ctrl+Down", GPSPlayControlSpeedDown},
+        {"actionVolumeUp", "Up", GPSPlayControlVolumeUp},
+        {"actionVolumeDown", "Down", GPSPlayControlVolumeDown},
+        {"actionToggleFullscreen", "Ctrl+F", GPSPlayControlToggleFullscreen},
+    };
+    for (const auto& [name, key, code] : items) {
+        QAction* item = action(name);
+        ASSERT_NE(item, nullptr) << name;
+        // A real shortcut would run the command a second time beside the key-handling view.
+        EXPECT_TRUE(item->shortcut().isEmpty()) << name;
+        EXPECT_TRUE(item->text().endsWith(QLatin1Char('\t') + QString::fromLatin1(key))) << name;
+        spy.codes.clear();
+        item->trigger();
+        EXPECT_EQ(spy.codes, std::vector<uint64_t>{code}) << name;
+        EXPECT_EQ(spy.senders.back(), controlView) << name;
+    }
+    controlView->setDelegate(&window_.controller());
+}
+
+TEST_F(MainWindowTest, MenusOfferOpenAndQuitByKeyAndShowTheItemsWithoutBehaviourDisabled) {
+    EXPECT_EQ(action("actionOpen")->shortcut(), QKeySequence(QStringLiteral("Ctrl+O")));
+    EXPECT_EQ(action("actionQuit")->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    for (const char* name : {"actionPreferences", "languageChinese", "languageEnglish", "languageJananese",
+                             "languageVietnamese", "mapBaidu", "mapGoogle"})
+        EXPECT_FALSE(action(name)->isEnabled()) << name;
+    for (const char* name : {"actionOpen", "actionRemove", "actionSnapshot", "actionQuit", "actionAbout"})
+        EXPECT_TRUE(action(name)->isEnabled()) << name;
+    QStringList titles;
+    for (QAction* menu : window_.menuBar()->actions()) titles << menu->text().remove(QLatin1Char('&'));
+    EXPECT_EQ(titles, (QStringList{"File", "Playback", "Units", "Language", "Map", "Help"}));
+}
+
+TEST_F(MainWindowTest, UnitItemsCarryTheirUnitTypeAndOnlyOneIsChecked) {
+    const MainWindowOutlets& o = window_.controller().outlets();
+    EXPECT_EQ(o.unitKMH->data().toULongLong(), 1u);
+    EXPECT_EQ(o.unitMPH->data().toULongLong(), 0u);
+    ASSERT_NE(o.unitKMH->actionGroup(), nullptr);
+    EXPECT_EQ(o.unitKMH->actionGroup(), o.unitMPH->actionGroup());
+    EXPECT_TRUE(o.unitKMH->actionGroup()->isExclusive());
+
+    struct Case {
+        uint64_t stored;
+        bool kmhChecked;
+    };
+    // Only 1 is KM/H on the menu; any other stored value checks MPH.
+    for (const Case c : {Case{0, false}, Case{1, true}, Case{2, false}}) {
+        settings_.setUnitType(c.stored);
+        window_.controller().RefreshMenu();
+        EXPECT_EQ(o.unitKMH->isChecked(), c.kmhChecked) << c.stored;
+        EXPECT_EQ(o.unitMPH->isChecked(), !c.kmhChecked) << c.stored;
+    }
+}
+
+TEST_F(MainWindowTest, ChoosingAUnitStoresItsTagAndMovesTheCheckMark) {
+    const MainWindowOutlets& o = window_.controller().outlets();
+    settings_.setUnitType(0);
+    activate();
+    ASSERT_TRUE(o.unitMPH->isChecked());
+    o.unitKMH->trigger();
+    EXPECT_EQ(settings_.unitType(), 1u);
+    EXPECT_TRUE(o.unitKMH->isChecked());
+    EXPECT_FALSE(o.unitMPH->isChecked());
+    o.unitMPH->trigger();
+    EXPECT_EQ(settings_.unitType(), 0u);
+    EXPECT_TRUE(o.unitMPH->isChecked());
+}
+
+TEST_F(MainWindowTest, OnlyTheFirstActivationSetsTheControlsUp) {
+    MainWindowDelegate& controller = window_.controller();
+    const MainWindowOutlets& o = controller.outlets();
+    EXPECT_FALSE(controller.isInited);
+    activate();
+    EXPECT_TRUE(controller.isInited);
+    EXPECT_EQ(o.txtSpeed->font().pointSize(), 50);
+    for (QLabel* label : {o.lblLatitude, o.txtLatitude, o.lblLongitude, o.txtLongitude})
+        EXPECT_EQ(label->font().pointSize(), 22) << label->objectName().toStdString();
+    for (QLabel* label : {o.lblDate, o.txtDate, o.lblTime, o.txtTime})
+        EXPECT_EQ(label->font().pointSize(), 20) << label->objectName().toStdString();
+
+    // A second activation must not undo what happened since: the check mark and the slider stay.
+    settings_.setUnitType(1);
+    o.volumeSlider->setValue(37);
+    activate();
+    EXPECT_EQ(o.volumeSlider->value(), 37);
+    EXPECT_FALSE(o.unitKMH->isChecked());
+}
+
+TEST_F(MainWindowTest, AboutOpensWithoutBlockingAndHidesAgain) {
+    window_.show();
+    // Returns at once: a blocking dialog would hang this test (and stop the window's events).
+    action("actionAbout")->trigger();
+    auto* about = window_.findChild<QMessageBox*>(QStringLiteral("aboutView"));
+    ASSERT_NE(about, nullptr);
+    EXPECT_TRUE(about->isVisible());
+    EXPECT_TRUE(about->text().contains(QStringLiteral("Dashtrack")));
+    window_.controller().OnHideAbout();
+    EXPECT_FALSE(about->isVisible());
+}
+
+TEST_F(MainWindowTest, EveryControlStaysOnScreenAtTheSmallestSize) {
+    EXPECT_EQ(window_.minimumSize(), QSize(1024, 640));
+    window_.show();
+    for (const QSize size : {QSize(1024, 640), QSize(1280, 800)}) {
+        window_.resize(size);
+        QApplication::processEvents();
+        const QRect area = window_.rect();
+        for (QWidget* widget : window_.centralWidget()->findChildren<QWidget*>()) {
+            if (!widget->isVisibleTo(&window_) || widget->objectName().isEmpty()) continue;
+            const QRect placed(widget->mapTo(&window_, QPoint(0, 0)), widget->size());
+            EXPECT_TRUE(area.contains(placed)) << widget->objectName().toStdString() << " at " << size.width();
+            EXPECT_GT(placed.width(), 0) << widget->objectName().toStdString();
+        }
+        EXPECT_GE(window_.controller().outlets().player->width(), 480);
+    }
+}
+
+}  // namespace
