@@ -1,5 +1,6 @@
 // dashtrack: the main window, with the movies named on the command line.
 
+#include "AppDelegate.h"
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"
@@ -52,6 +53,8 @@ int main(int argc, char** argv) {
 
     MainWindow window(settings);
     window.controller().setQuitAtEnd(parser.isSet(quitAtEnd));
+    // Blue while the application is active, grey while not; owned by the window.
+    new AppDelegate(&window);
     window.show();
     // A desktop activates a new window itself; without a window manager (a bare X server) nobody
     // would, and the window's set-up waits for its first activation.

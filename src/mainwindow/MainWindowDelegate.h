@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <vector>
 
+class GPSInfoPanel;
 class GPSUtils;
 class QAction;
 
@@ -82,11 +83,6 @@ public:
     void ResetControls();
     void RefreshUnits();
 
-    // The LED font of the read-outs (application shell).
-    void RegisterLEDFont();
-    void UnregisterLEDFont();
-    // The family the read-outs ask for: the LED font, or the fallback when it could not be registered.
-    QString LEDFontFamily() const;
 
     bool isInited = false;
     // Placeholder until the playlist's entries arrive: the movies in display order.
@@ -95,6 +91,9 @@ public:
     int64_t curIndex = -1;
 
 private:
+    // The read-out labels of the outlets, as the panel that writes them.
+    GPSInfoPanel infoPanel() const;
+
     GPSUtils& settings_;
     MainWindowOutlets outlets_;
     bool quitAtEnd_ = false;

@@ -47,12 +47,3 @@ void MainWindowDelegate::OnRemoveMediaFile(QObject* /*sender*/) {}
 void MainWindowDelegate::OnDoubleClickMediaItem(QObject* /*sender*/) {}
 void MainWindowDelegate::AddedMovies(QObject* /*sender*/, const std::vector<std::filesystem::path>& /*movies*/) {}
 
-// ---- Read-outs (display/) ----
-void MainWindowDelegate::UpdatedGPSInfo(GPSPlayerEngine& /*engine*/, const GPSData& /*data*/, uint64_t /*index*/) {}
-void MainWindowDelegate::ResetControls() {}
-void MainWindowDelegate::RefreshUnits() {}
-
-// ---- LED font (application shell) ----
-void MainWindowDelegate::RegisterLEDFont() {}
-void MainWindowDelegate::UnregisterLEDFont() {}
-QString MainWindowDelegate::LEDFontFamily() const { return QStringLiteral("DigifaceWide"); }

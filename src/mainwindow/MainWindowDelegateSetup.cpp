@@ -2,9 +2,11 @@
 
 #include "MainWindowDelegate.h"
 
+#include "GPSInfoPanel.h"
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
 #include "GPSUtils.h"
+#include "LEDFontManager.h"
 #include "SliderFraction.h"
 
 #include <QAction>
@@ -18,39 +20,20 @@
 
 #include <utility>
 
-namespace {
-
-// Point sizes of the read-outs in the LED font; the unit and the title keep the layout's font.
-constexpr int speedPointSize = 50;
-constexpr int positionPointSize = 22;
-constexpr int dateTimePointSize = 20;
-
-void setFontSize(QLabel* label, const QString& family, int pointSize) {
-    if (label == nullptr) return;
-    QFont font(family);
-    font.setPointSize(pointSize);
-    label->setFont(font);
-}
-
-}  // namespace
 
 MainWindowDelegate::MainWindowDelegate(GPSUtils& settings, QObject* parent) : QObject(parent), settings_(settings) {}
 
 void MainWindowDelegate::windowDidBecomeMain() {
     if (isInited) return;
     isInited = true;
-    // Before the controls: the family they ask for depends on whether registration worked.
-    RegisterLEDFont();
+    // Before the controls: the font they ask for depends on whether registration worked.
+    LEDFontManager::Register();
     setupControls();
 }
 
 void MainWindowDelegate::setupControls() {
     const MainWindowOutlets& o = outlets_;
-    const QString family = LEDFontFamily();
-    setFontSize(o.txtSpeed, family, speedPointSize);
-    for (QLabel* label : {o.lblLatitude, o.txtLatitude, o.lblLongitude, o.txtLongitude})
-        setFontSize(label, family, positionPointSize);
-    for (QLabel* label : {o.lblDate, o.txtDate, o.lblTime, o.txtTime}) setFontSize(label, family, dateTimePointSize);
+    infoPanel().setupFonts();
 
     if (o.volumeSlider != nullptr && o.player != nullptr)
         setSliderFraction(*o.volumeSlider, o.player->engine().volume());
@@ -62,7 +45,7 @@ void MainWindowDelegate::setupControls() {
     UpdatePlayingStatus();
 }
 
-void MainWindowDelegate::windowWillClose() { UnregisterLEDFont(); }
+void MainWindowDelegate::windowWillClose() { LEDFontManager::Unregister(); }
 
 void MainWindowDelegate::RefreshMenu() {
     const bool kmh = settings_.unitType() == 1;
