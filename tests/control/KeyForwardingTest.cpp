@@ -76,15 +76,6 @@ TEST_F(GPSTableViewTest, PassesModifiersOnAndEachKeyOnlyOnce) {
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlNext, GPSPlayControlNone}));
 }
 
-TEST_F(GPSTableViewTest, WithoutAControlViewKeepsOnlyItsOwnHandling) {
-    table_->setControlView(nullptr);
-    QKeyEvent up = keyEvent(QEvent::KeyPress, Qt::Key_Up);
-    QCoreApplication::sendEvent(table_, &up);
-    EXPECT_EQ(selectedRow(), 0);
-    EXPECT_TRUE(delegate_.codes.empty());
-    EXPECT_EQ(table_->accessibleName(), QStringLiteral("Playlist"));
-}
-
 // Counts the wheel events that reach it, so a test sees whether one climbed from a child.
 class WheelCounter final : public QWidget {
 public:
@@ -144,12 +135,6 @@ TEST_F(GPSPlayerViewKeysTest, EscapeInFullScreenLeavesItAndNothingElse) {
     EXPECT_FALSE(player_->isInFullScreenMode());
     EXPECT_EQ(player_->parentWidget(), &window_);
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlPlayPause}));
-}
-
-TEST_F(GPSPlayerViewKeysTest, WithoutAControlViewKeysAreIgnored) {
-    player_->setControlView(nullptr);
-    sendKey(player_, QEvent::KeyPress, Qt::Key_Space);
-    EXPECT_TRUE(delegate_.codes.empty());
 }
 
 TEST_F(GPSPlayerViewKeysTest, OnlyALeftDoubleClickTogglesFullScreen) {

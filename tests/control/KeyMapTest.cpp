@@ -72,18 +72,6 @@ TEST(PlayControlKeyMap, KnowsFByItsPlaceWhereTheScanCodeTellsIt) {
     EXPECT_EQ(PlayControlKeyMap::keyOf(Qt::Key_Space, 65, true), ControlKey::Space);
 }
 
-TEST(PlayControlKeyMap, JudgesAnEventByItsOwnModifiers) {
-    QKeyEvent keypadLeft = keyEvent(QEvent::ShortcutOverride, Qt::Key_Left, Qt::KeypadModifier);
-    EXPECT_EQ(PlayControlKeyMap::codeFor(keypadLeft), GPSPlayControlBackward) << "the keypad does not count";
-    QKeyEvent ctrlRight = keyEvent(QEvent::ShortcutOverride, Qt::Key_Right, Qt::ControlModifier);
-    EXPECT_EQ(PlayControlKeyMap::codeFor(ctrlRight), GPSPlayControlNext);
-    QKeyEvent ctrlShiftRight =
-        keyEvent(QEvent::ShortcutOverride, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(PlayControlKeyMap::codeFor(ctrlShiftRight), GPSPlayControlNone);
-    QKeyEvent ctrlO = keyEvent(QEvent::ShortcutOverride, Qt::Key_O, Qt::ControlModifier);
-    EXPECT_EQ(PlayControlKeyMap::codeFor(ctrlO), GPSPlayControlNone);
-}
-
 struct ModifierStep {
     QEvent::Type type;
     int key;
@@ -129,22 +117,6 @@ TEST(ModifierState, FollowsModifierKeysWhateverStateTheirEventsCarry) {
             EXPECT_EQ(state.keyStatus(), step.keyStatus) << std::hex << step.key;
         }
     }
-}
-
-TEST(ModifierState, KeepsEachFlagWithItsBit) {
-    ModifierState state;
-    state.setModifiers(Qt::ControlModifier | Qt::AltModifier);
-    EXPECT_TRUE(state.cmdKeyDown());
-    EXPECT_FALSE(state.shiftKeyDown());
-    EXPECT_FALSE(state.ctrlKeyDown());
-    EXPECT_TRUE(state.optionKeyDown());
-    EXPECT_EQ(state.keyStatus(), kCmd | kOption);
-    state.setModifiers(Qt::ShiftModifier | Qt::MetaModifier);
-    EXPECT_FALSE(state.cmdKeyDown());
-    EXPECT_TRUE(state.shiftKeyDown());
-    EXPECT_TRUE(state.ctrlKeyDown());
-    EXPECT_FALSE(state.optionKeyDown());
-    EXPECT_EQ(state.keyStatus(), kShift | kCtrl);
 }
 
 }  // namespace

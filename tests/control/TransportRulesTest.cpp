@@ -70,14 +70,6 @@ TEST(PlaylistNavigation, PlayWithIndexIgnoresRestartsOrLoads) {
     }
 }
 
-TEST(PlaylistNavigation, PlayNeedsASenderThenAPlaylist) {
-    EXPECT_EQ(PlaylistNavigation::play(false, 3, true), PlayStep::Nothing);
-    EXPECT_EQ(PlaylistNavigation::play(false, 0, false), PlayStep::Nothing);
-    EXPECT_EQ(PlaylistNavigation::play(true, 0, false), PlayStep::OpenPanel);
-    EXPECT_EQ(PlaylistNavigation::play(true, 2, true), PlayStep::Resume);
-    EXPECT_EQ(PlaylistNavigation::play(true, 2, false), PlayStep::PlaySelectedRow);
-}
-
 TEST(SliderStep, StepsStopAtTheEndsAndDoNothingThere) {
     struct Row {
         double value;
