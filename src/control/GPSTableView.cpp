@@ -7,6 +7,18 @@
 
 GPSTableView::GPSTableView(QWidget* parent) : QTableView(parent) { setAccessibleName(QStringLiteral("Playlist")); }
 
+bool GPSTableView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && controlView_) {
+        const std::unique_ptr<QEvent> copy(event->clone());
+        QCoreApplication::sendEvent(controlView_, copy.get());
+        if (copy->isAccepted()) {
+            event->accept();
+            return true;
+        }
+    }
+    return QTableView::event(event);
+}
+
 void GPSTableView::keyPressEvent(QKeyEvent* event) {
     QTableView::keyPressEvent(event);
     forwardToControlView(event);

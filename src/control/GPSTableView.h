@@ -15,6 +15,8 @@ public:
     void setControlView(QWidget* controlView) { controlView_ = controlView; }
 
 protected:
+    // A shortcut override is judged by controlView, so the keys it takes reach it from here too.
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
 

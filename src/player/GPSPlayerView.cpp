@@ -35,6 +35,18 @@ void GPSPlayerView::toggleFullscreen() {
     window()->activateWindow();
 }
 
+bool GPSPlayerView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && controlView_) {
+        const std::unique_ptr<QEvent> copy(event->clone());
+        QCoreApplication::sendEvent(controlView_, copy.get());
+        if (copy->isAccepted()) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
 void GPSPlayerView::keyPressEvent(QKeyEvent* event) {
     event->accept();
     if (event->key() == Qt::Key_Escape && isInFullScreenMode()) {

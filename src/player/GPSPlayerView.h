@@ -44,6 +44,8 @@ public:
     bool isInFullScreenMode() const { return fullScreen_.isFullScreen(); }
 
 protected:
+    // A shortcut override is judged by controlView, so the keys it takes reach it from here too.
+    bool event(QEvent* event) override;
     // Escape leaves full screen; every other key goes to controlView.
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;

@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -74,6 +75,21 @@ TEST_F(GPSTableViewTest, PassesModifiersOnAndEachKeyOnlyOnce) {
     // A key the table ignores would otherwise also climb to its parent, the key-handling view.
     sendKey(table_, QEvent::KeyPress, Qt::Key_F1);
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlNext, GPSPlayControlNone}));
+}
+
+TEST_F(GPSTableViewTest, TakesTheKeysOfTheControlViewFromMenuShortcutsWhereverItSits) {
+    // Out of the key-handling view's children, the override cannot climb to it.
+    GPSTableView table;
+    table.setControlView(control_.get());
+    for (const auto& [key, modifiers, taken] :
+         {std::tuple{Qt::Key_Space, Qt::NoModifier, true}, std::tuple{Qt::Key_Left, Qt::ControlModifier, true},
+          std::tuple{Qt::Key_O, Qt::ControlModifier, false}}) {
+        QKeyEvent shortcut = keyEvent(QEvent::ShortcutOverride, key, modifiers);
+        shortcut.ignore();
+        QCoreApplication::sendEvent(&table, &shortcut);
+        EXPECT_EQ(shortcut.isAccepted(), taken) << std::hex << key;
+    }
+    EXPECT_TRUE(delegate_.codes.empty());
 }
 
 // Counts the wheel events that reach it, so a test sees whether one climbed from a child.
