@@ -35,15 +35,28 @@ public:
     GPSPlayerEngine& engine() { return engine_; }
     const GPSPlayerEngine& engine() const { return engine_; }
 
-    // Where key events the view does not handle itself go; null when none.
+    // Where the keys go, modifier changes included, apart from Escape in full screen; null when none.
     QWidget* controlView() const { return controlView_; }
     void setControlView(QWidget* controlView) { controlView_ = controlView; }
 
     // The movie alone fills the screen, or goes back to its place in the window.
-    void toggleFullscreen() { fullScreen_.toggle(); }
+    void toggleFullscreen();
     bool isInFullScreenMode() const { return fullScreen_.isFullScreen(); }
 
+protected:
+    // A shortcut override is judged by controlView, so the keys it takes reach it from here too.
+    bool event(QEvent* event) override;
+    // Escape leaves full screen; every other key goes to controlView.
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    // A double click toggles full screen.
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    // Scrolling over the movie does nothing.
+    void wheelEvent(QWheelEvent* event) override;
+
 private:
+    void forwardToControlView(QKeyEvent* event);
+
     std::unique_ptr<VideoSurface> surface_;
     // After surface_, so destroyed before it: the engine takes its players out of the surface.
     GPSPlayerEngine engine_;

@@ -1,0 +1,74 @@
+#pragma once
+// Shared pieces of the control tests: a delegate that records what the key-handling view sends, a
+// settings object in a temporary folder whose probe the test controls, and key events.
+
+#include "GPSControlViewDelegate.h"
+#include "GPSUtils.h"
+#include "VideoTrackProbe.h"
+
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <thread>
+#include <vector>
+
+struct RecordingDelegate final : GPSControlViewDelegate {
+    struct Drop {
+        QObject* sender;
+        std::vector<std::filesystem::path> movies;
+    };
+    void didPerformPlayControl(QObject* sender, uint64_t playControl) override {
+        senders.push_back(sender);
+        codes.push_back(playControl);
+    }
+    void AddedMovies(QObject* sender, const std::vector<std::filesystem::path>& movies) override {
+        drops.push_back({sender, movies});
+    }
+    std::vector<QObject*> senders;
+    std::vector<uint64_t> codes;
+    std::vector<Drop> drops;
+};
+
+// A movie is a file whose name starts with "movie"; nothing is read. A file whose name starts with
+// "held" waits until release() before it is answered (not a movie), so a test can keep a worker busy.
+class NameProbe final : public VideoTrackProbe {
+public:
+    bool hasVideoTrack(const std::filesystem::path& file) const override;
+    void release();
+    // Files asked about so far, and the threads that asked.
+    std::size_t calls() const { return calls_; }
+    std::set<std::thread::id> threads() const;
+
+private:
+    mutable std::mutex mutex_;
+    mutable std::condition_variable released_;
+    bool isReleased_ = false;
+    mutable std::atomic<std::size_t> calls_{0};
+    mutable std::set<std::thread::id> threads_;
+};
+
+class ProbedSettings {
+public:
+    ProbedSettings();
+    GPSUtils& utils() { return *utils_; }
+    NameProbe& probe() { return *probe_; }
+
+private:
+    QTemporaryDir dir_;
+    std::shared_ptr<NameProbe> probe_ = std::make_shared<NameProbe>();
+    std::unique_ptr<GPSUtils> utils_;
+};
+
+// A key event as X11 delivers it: a modifier key's own event carries the state from before it.
+QKeyEvent keyEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                   bool autoRepeat = false);
+
+// Sends the key presses that hold modifiers, in order, each with the modifiers held before it.
+void pressModifiers(QObject* receiver, Qt::KeyboardModifiers modifiers);

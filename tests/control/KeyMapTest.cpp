@@ -1,0 +1,122 @@
+// The key map and the modifier state, without a window: every key with every modifier set, the
+// physical F, and the modifier bits following presses and releases in both platform styles.
+
+#include "ControlTestSupport.h"
+#include "GPSPlayControl.h"
+#include "ModifierState.h"
+#include "PlayControlKeyMap.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+constexpr uint64_t kCmd = ModifierState::kCommandBit;
+constexpr uint64_t kShift = ModifierState::kShiftBit;
+constexpr uint64_t kCtrl = ModifierState::kControlBit;
+constexpr uint64_t kOption = ModifierState::kOptionBit;
+
+struct KeyRow {
+    ControlKey key;
+    uint64_t alone;
+    uint64_t withCommand;
+};
+
+TEST(PlayControlKeyMap, OnlyNoModifierAndCommandAloneGiveCommands) {
+    const std::array<KeyRow, 8> rows{{
+        {ControlKey::Left, GPSPlayControlBackward, GPSPlayControlPrev},
+        {ControlKey::Right, GPSPlayControlForward, GPSPlayControlNext},
+        {ControlKey::Down, GPSPlayControlVolumeDown, GPSPlayControlSpeedDown},
+        {ControlKey::Up, GPSPlayControlVolumeUp, GPSPlayControlSpeedUp},
+        {ControlKey::Space, GPSPlayControlPlayPause, GPSPlayControlNone},
+        {ControlKey::Backspace, GPSPlayControlNone, GPSPlayControlStop},
+        {ControlKey::F, GPSPlayControlNone, GPSPlayControlToggleFullscreen},
+        {ControlKey::Other, GPSPlayControlNone, GPSPlayControlNone},
+    }};
+    const std::array<uint64_t, 7> otherStatuses{
+        kShift, kCtrl, kOption, kCmd | kShift, kCmd | kOption, kCmd | kCtrl, kShift | kCtrl | kOption};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(static_cast<int>(row.key));
+        EXPECT_EQ(PlayControlKeyMap::codeFor(row.key, 0), row.alone);
+        EXPECT_EQ(PlayControlKeyMap::codeFor(row.key, kCmd), row.withCommand);
+        for (const uint64_t status : otherStatuses)
+            EXPECT_EQ(PlayControlKeyMap::codeFor(row.key, status), 0u) << status;
+    }
+}
+
+TEST(PlayControlKeyMap, KnowsFByItsPlaceWhereTheScanCodeTellsIt) {
+    struct Row {
+        int qtKey;
+        uint32_t scanCode;
+        bool xkb;
+        ControlKey expected;
+    };
+    const std::array<Row, 9> rows{{
+        {Qt::Key_F, 41, true, ControlKey::F},
+        {0x0410, 41, true, ControlKey::F},    // Cyrillic А on the F key
+        {0x03A6, 41, true, ControlKey::F},    // Greek Φ on the F key
+        {Qt::Key_F, 0, true, ControlKey::F},  // no scan code: by its meaning
+        {Qt::Key_F, 0, false, ControlKey::F},
+        {Qt::Key_F, 33, false, ControlKey::F},  // another platform's codes: by its meaning
+        {Qt::Key_G, 42, true, ControlKey::Other},
+        {0x0410, 0, false, ControlKey::Other},
+        {Qt::Key_Left, 113, true, ControlKey::Left},
+    }};
+    for (const auto& row : rows) {
+        EXPECT_EQ(PlayControlKeyMap::keyOf(row.qtKey, row.scanCode, row.xkb), row.expected)
+            << std::hex << row.qtKey << " scan " << std::dec << row.scanCode;
+    }
+    EXPECT_EQ(PlayControlKeyMap::keyOf(Qt::Key_Backspace, 22, true), ControlKey::Backspace);
+    EXPECT_EQ(PlayControlKeyMap::keyOf(Qt::Key_Delete, 119, true), ControlKey::Other);
+    EXPECT_EQ(PlayControlKeyMap::keyOf(Qt::Key_Space, 65, true), ControlKey::Space);
+}
+
+struct ModifierStep {
+    QEvent::Type type;
+    int key;
+    Qt::KeyboardModifiers carried;  // what the event's modifiers() says
+    uint64_t keyStatus;             // after the step
+};
+
+struct ModifierCase {
+    const char* name;
+    std::vector<ModifierStep> steps;
+};
+
+TEST(ModifierState, FollowsModifierKeysWhateverStateTheirEventsCarry) {
+    const auto press = QEvent::KeyPress;
+    const auto release = QEvent::KeyRelease;
+    const std::vector<ModifierCase> cases{
+        // X11: a modifier's own event carries the state from before it.
+        {"shift, state before",
+         {{press, Qt::Key_Shift, Qt::NoModifier, kShift}, {release, Qt::Key_Shift, Qt::ShiftModifier, 0}}},
+        // Other platforms: the state after it.
+        {"shift, state after",
+         {{press, Qt::Key_Shift, Qt::ShiftModifier, kShift}, {release, Qt::Key_Shift, Qt::NoModifier, 0}}},
+        {"command and control",
+         {{press, Qt::Key_Control, Qt::NoModifier, kCmd},
+          {press, Qt::Key_Meta, Qt::ControlModifier, kCmd | kCtrl},
+          {release, Qt::Key_Control, Qt::ControlModifier | Qt::MetaModifier, kCtrl},
+          {release, Qt::Key_Meta, Qt::MetaModifier, 0}}},
+        {"super is control", {{press, Qt::Key_Super_L, Qt::NoModifier, kCtrl}}},
+        {"option", {{press, Qt::Key_Alt, Qt::NoModifier, kOption}, {release, Qt::Key_Alt, Qt::AltModifier, 0}}},
+        {"the same modifiers twice",
+         {{press, Qt::Key_Shift, Qt::NoModifier, kShift}, {press, Qt::Key_Shift, Qt::ShiftModifier, kShift}}},
+        {"AltGr and the keypad are no modifiers",
+         {{press, Qt::Key_AltGr, Qt::GroupSwitchModifier, 0}, {press, Qt::Key_4, Qt::KeypadModifier, 0}}},
+        {"an ordinary key carries the true state",
+         {{press, Qt::Key_Control, Qt::NoModifier, kCmd}, {press, Qt::Key_A, Qt::ShiftModifier, kShift}}},
+    };
+    for (const auto& testCase : cases) {
+        SCOPED_TRACE(testCase.name);
+        ModifierState state;
+        for (const auto& step : testCase.steps) {
+            QKeyEvent event = keyEvent(step.type, step.key, step.carried);
+            state.setModifiers(ModifierState::heldAfter(event));
+            EXPECT_EQ(state.keyStatus(), step.keyStatus) << std::hex << step.key;
+        }
+    }
+}
+
+}  // namespace
