@@ -32,6 +32,7 @@ TEST_F(ControllerTest, AddingToAnEmptyPlaylistPlaysTheFirstEntryAndLaterAddition
     EXPECT_EQ(controller.curIndex, 0);
     EXPECT_EQ(factory->requested.size(), 1u);
     EXPECT_TRUE(playing());
+    EXPECT_EQ(selectedRow(), 0);
     EXPECT_EQ(txtTitle->text().toStdString(), movie(0).string());
 
     controller.AddedMovies(nullptr, {movie(0)});
@@ -85,6 +86,7 @@ TEST_F(ControllerTest, TheEndOfAMovieLoadsTheNextPausedAndTheLastGoesBackToItsSt
     finishMovie();
     EXPECT_EQ(controller.curIndex, 2);
     EXPECT_EQ(factory->requested.back(), movie(2));
+    EXPECT_EQ(selectedRow(), 2);
     EXPECT_FALSE(playing()) << "the next entry waits for the user";
 
     finishMovie();
@@ -178,6 +180,22 @@ TEST_F(ControllerTest, FastRatesShowThePlayButtonWhichGoesBackToNormal) {
     EXPECT_EQ(player->rate, -2.0f);
     controller.didPerformPlayControl(controlView, GPSPlayControlNone);
     EXPECT_EQ(player->rate, -2.0f);
+}
+
+TEST_F(ControllerTest, PlayWithNothingLoadedPlaysTheSelectedRowOrNothing) {
+    addMovies(2);
+    controller.OnStop(btStop);
+    clearSelection();
+    const size_t loads = factory->requested.size();
+    controller.OnPlay(btPlay);
+    EXPECT_EQ(factory->requested.size(), loads) << "no row selected: nothing";
+    controller.OnPlay(nullptr);
+    EXPECT_EQ(factory->requested.size(), loads);
+
+    selectRow(1);
+    controller.OnPlay(btPlay);
+    EXPECT_EQ(controller.curIndex, 1);
+    EXPECT_EQ(factory->requested.back(), movie(1));
 }
 
 TEST_F(ControllerTest, AnEntryThatNoLongerPlaysIsLoadedOnceAndLeftStopped) {
