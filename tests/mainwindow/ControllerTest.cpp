@@ -7,7 +7,10 @@
 #include "GPSPlayControl.h"
 #include "SliderFraction.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
+#include <QImage>
+#include <QThreadPool>
 
 #include <gtest/gtest.h>
 
@@ -218,9 +221,29 @@ TEST_F(ControllerTest, ProgressLeavesTheKnobAloneWhileTheUserHoldsIt) {
     durationSlider->setSliderDown(false);
 }
 
-TEST_F(ControllerTest, SnapshotOpensADialogOnlyWhenThereIsAFrame) {
+TEST_F(ControllerTest, SnapshotIsTakenAtOnceAndWrittenOnlyWhereTheUserAccepts) {
     controller.OnSnapshot(btSnapshot);
     EXPECT_EQ(window.findChild<QFileDialog*>(), nullptr) << "nothing loaded: no dialog";
+
+    addMovies(1);
+    player->at(2.5);
+    const QString target = QString::fromStdString((moviesFolder() / "shot.png").string());
+    for (const bool accept : {false, true}) {
+        controller.OnSnapshot(btSnapshot);
+        auto* dialog = window.findChild<QFileDialog*>(QStringLiteral("snapshotDialog"));
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_TRUE(playing()) << "the movie plays on behind the dialog";
+        if (accept) emit dialog->fileSelected(target);
+        dialog->close();
+        QCoreApplication::processEvents();
+        QThreadPool::globalInstance()->waitForDone();
+        QImage saved(target);
+        EXPECT_EQ(!saved.isNull(), accept);
+        if (accept) {
+            EXPECT_EQ(saved.size(), QSize(320, 180)) << "the movie's own pixel size";
+        }
+    }
 }
 
 }  // namespace
