@@ -35,7 +35,7 @@ void MainWindowDelegate::setupPlaylistTable() {
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setShowGrid(false);
     table->setWordWrap(false);
-    table->setTextElideMode(Qt::ElideMiddle);  // a path's beginning and its file name both matter
+    table->setTextElideMode(Qt::ElideLeft);  // the file name is the end of the path: keep it
     QHeaderView* rows = table->verticalHeader();
     rows->hide();
     rows->setSectionResizeMode(QHeaderView::Fixed);
