@@ -66,8 +66,8 @@ public:
     }
     ~ControllerHarness() { view->engine().setDelegate(nullptr); }
 
-    // Copies made one after the other, so that their creation times sort them in this order; the
-    // scripted player plays them whatever they hold.
+    // Copies made one after the other and named in that order, so that the playlist sorts them in
+    // this order; the scripted player plays them whatever they hold.
     const std::filesystem::path& movie(int i) const { return movies_.at(static_cast<std::size_t>(i)); }
     std::filesystem::path moviesFolder() const { return moviesDir_.path().toStdString(); }
     // Added one by one, oldest first, so that the sort keeps this order.

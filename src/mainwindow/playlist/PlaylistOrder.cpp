@@ -50,9 +50,16 @@ void PlaylistOrder::sortByCreationTime(std::vector<PlaylistItem>& items) {
         const auto& text = items[i].CreationTime();
         ranked.push_back({text ? sortKey(*text) : std::nullopt, i});
     }
-    std::stable_sort(ranked.begin(), ranked.end(), [](const Ranked& a, const Ranked& b) {
-        if (!a.key || !b.key) return a.key.has_value() && !b.key.has_value();
-        return *a.key < *b.key;
+    // Clips copied off a card in one go share a creation second. Cameras number their clips in
+    // recording order, so within one second (or with no time at all) the file name decides.
+    const auto name = [&items](const Ranked& r) -> const std::filesystem::path& { return items[r.position].URL(); };
+    std::stable_sort(ranked.begin(), ranked.end(), [&name](const Ranked& a, const Ranked& b) {
+        if (a.key.has_value() != b.key.has_value()) return a.key.has_value();
+        if (a.key && *a.key != *b.key) return *a.key < *b.key;
+        const auto& pa = name(a);
+        const auto& pb = name(b);
+        if (pa.filename() != pb.filename()) return pa.filename() < pb.filename();
+        return pa < pb;
     });
     std::vector<PlaylistItem> sorted;
     sorted.reserve(items.size());

@@ -6,6 +6,7 @@
 #include "PlaylistItem.h"
 
 #include <array>
+#include <filesystem>
 #include <optional>
 #include <string_view>
 #include <vector>

@@ -64,16 +64,17 @@ TEST(PlaylistOrder, ReadsTheKeyBackWithTwelveAsZeroAndRejectsOtherShapes) {
         EXPECT_EQ(PlaylistOrder::sortKey(text), std::nullopt) << text;
 }
 
-TEST(PlaylistOrder, SortsByTheTwelveHourReadingAndPutsEntriesWithoutTimeLast) {
+TEST(PlaylistOrder, SortsByTheTwelveHourReadingThenByNameAndPutsEntriesWithoutTimeLast) {
     const TimeZoneGuard zone("UTC0");
     std::vector<PlaylistItem> items{
         {"no-time-1", std::nullopt}, {"03:00", madeAt(3)},     {"14:00", madeAt(14)},
         {"00:30", madeAt(0, 30)},    {"no-time-2", std::nullopt}, {"day-before", madeAt(23, 0, 2)},
-        {"12:30", madeAt(12, 30)},   // the same text as 00:30, so it stays after it
+        {"12:30", madeAt(12, 30)},   // the same text as 00:30: the name decides
+        {"clip_0002.MOV", madeAt(5)}, {"clip_0001.MOV", madeAt(5)},  // copied in one second
     };
     PlaylistOrder::sortByCreationTime(items);
-    EXPECT_EQ(paths(items), (std::vector<std::string>{"day-before", "00:30", "12:30", "14:00", "03:00", "no-time-1",
-                                                      "no-time-2"}));
+    EXPECT_EQ(paths(items), (std::vector<std::string>{"day-before", "00:30", "12:30", "14:00", "03:00", "clip_0001.MOV",
+                                                      "clip_0002.MOV", "no-time-1", "no-time-2"}));
 }
 
 TEST(Playlist, AddSaysToPlayOnlyWhenAnEmptyListGetsEntriesAndKeepsDuplicates) {
