@@ -10,8 +10,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFile>
-#include <QLabel>
 
 #include <clocale>
 #include <filesystem>
@@ -20,17 +18,14 @@
 
 namespace {
 
-// Plays the first movie file given; folders wait for the playlist's folder scan.
-void openArguments(MainWindow& window, const std::vector<std::filesystem::path>& movies) {
-    for (const auto& movie : movies) {
+// The movie files given join the playlist; folders wait for the playlist's folder scan.
+void openArguments(MainWindow& window, const std::vector<std::filesystem::path>& arguments) {
+    std::vector<std::filesystem::path> movies;
+    for (const auto& movie : arguments) {
         std::error_code error;
-        if (!std::filesystem::is_regular_file(movie, error)) continue;
-        const MainWindowOutlets& outlets = window.controller().outlets();
-        outlets.player->engine().setMovie(movie);
-        outlets.txtTitle->setText(QFile::decodeName(movie.c_str()));
-        outlets.player->engine().Resume();
-        return;
+        if (std::filesystem::is_regular_file(movie, error)) movies.push_back(movie);
     }
+    window.controller().AddedMovies(nullptr, movies);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "GPSControlViewDelegate.h"
 #include "GPSPlayerViewDelegate.h"
 #include "MainWindowOutlets.h"
+#include "TransportCommands.h"
 
 #include <QObject>
 #include <QString>
@@ -15,10 +16,15 @@
 #include <vector>
 
 class GPSInfoPanel;
+class GPSPlayerEngine;
 class GPSUtils;
+class QAbstractButton;
 class QAction;
 
-class MainWindowDelegate : public QObject, public GPSPlayerViewDelegate, public GPSControlViewDelegate {
+class MainWindowDelegate : public QObject,
+                           public GPSPlayerViewDelegate,
+                           public GPSControlViewDelegate,
+                           public TransportCommands {
     Q_OBJECT
 
 public:
@@ -48,25 +54,29 @@ public:
     void OnPreference(QObject* sender);
 
     // Transport commands (control/). A null sender means "called by another handler".
-    void OnPlay(QObject* sender);
-    void OnPause(QObject* sender);
-    void OnStop(QObject* sender);
-    void OnPrev(QObject* sender);
-    void OnNext(QObject* sender);
-    void OnBackward(QObject* sender);
-    void OnForward(QObject* sender);
+    void OnPlay(QObject* sender) override;
+    void OnPause(QObject* sender) override;
+    void OnStop(QObject* sender) override;
+    void OnPrev(QObject* sender) override;
+    void OnNext(QObject* sender) override;
+    void OnBackward(QObject* sender) override;
+    void OnForward(QObject* sender) override;
     void OnDurationChanged(QObject* sender);
     void OnVolumeChanged(QObject* sender);
     void OnMute(QObject* sender);
     void OnSound(QObject* sender);
-    void OnToggleFullscreen(QObject* sender);
+    void OnToggleFullscreen(QObject* sender) override;
     void OnSnapshot(QObject* sender);
-    void VolumeDown();
-    void VolumeUp();
-    void SpeedDown();
-    void SpeedUp();
+    void VolumeDown() override;
+    void VolumeUp() override;
+    void SpeedDown() override;
+    void SpeedUp() override;
+    // Loads (or restarts) playlist entry index; autoPlay then plays it.
+    void playWithIndex(int64_t index, bool autoPlay);
     void UpdateControls();
-    void UpdatePlayingStatus();
+    void UpdatePlayingStatus() override;
+    bool isButtonEnabled(TransportButton button) const override;
+    bool isButtonHidden(TransportButton button) const override;
     void didPerformPlayControl(QObject* sender, uint64_t playControl) override;
     void UpdateDuration(GPSPlayerEngine& engine, double progress) override;
     void UpdatedPlayingStatus(GPSPlayerEngine& engine, bool playing) override;
@@ -91,6 +101,14 @@ public:
     int64_t curIndex = -1;
 
 private:
+    // The engine behind the movie view; null when the window has none.
+    GPSPlayerEngine* engine() const;
+    QAbstractButton* buttonOf(TransportButton button) const;
+    // The playlist table's selected row, -1 for none; selecting replaces the selection.
+    int64_t selectedRow() const;
+    void selectRow(int64_t row);
+    const std::filesystem::path& playlistURL(int64_t row) const;
+
     // The read-out labels of the outlets, as the panel that writes them.
     GPSInfoPanel infoPanel() const;
 

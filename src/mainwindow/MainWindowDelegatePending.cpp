@@ -3,47 +3,33 @@
 
 #include "MainWindowDelegate.h"
 
-#include <QCoreApplication>
+#include "GPSTableView.h"
 
-// ---- Transport commands (control/) ----
-void MainWindowDelegate::OnPlay(QObject* /*sender*/) {}
-void MainWindowDelegate::OnPause(QObject* /*sender*/) {}
-void MainWindowDelegate::OnStop(QObject* /*sender*/) {}
-void MainWindowDelegate::OnPrev(QObject* /*sender*/) {}
-void MainWindowDelegate::OnNext(QObject* /*sender*/) {}
-void MainWindowDelegate::OnBackward(QObject* /*sender*/) {}
-void MainWindowDelegate::OnForward(QObject* /*sender*/) {}
-void MainWindowDelegate::OnDurationChanged(QObject* /*sender*/) {}
-void MainWindowDelegate::OnVolumeChanged(QObject* /*sender*/) {}
-void MainWindowDelegate::OnMute(QObject* /*sender*/) {}
-void MainWindowDelegate::OnSound(QObject* /*sender*/) {}
-void MainWindowDelegate::OnToggleFullscreen(QObject* /*sender*/) {}
-void MainWindowDelegate::OnSnapshot(QObject* /*sender*/) {}
-void MainWindowDelegate::VolumeDown() {}
-void MainWindowDelegate::VolumeUp() {}
-void MainWindowDelegate::SpeedDown() {}
-void MainWindowDelegate::SpeedUp() {}
-void MainWindowDelegate::UpdateControls() {}
-void MainWindowDelegate::UpdatePlayingStatus() {}
-void MainWindowDelegate::didPerformPlayControl(QObject* /*sender*/, uint64_t /*playControl*/) {}
-void MainWindowDelegate::UpdateDuration(GPSPlayerEngine& /*engine*/, double /*progress*/) {}
-void MainWindowDelegate::UpdatedPlayingStatus(GPSPlayerEngine& /*engine*/, bool /*playing*/) {}
-
-void MainWindowDelegate::Completed(GPSPlayerEngine& /*engine*/) {
-    if (quitAtEnd_) {
-        // The end is reported on every tick there; quit once.
-        if (!quitting_) {
-            quitting_ = true;
-            QCoreApplication::quit();
-        }
-        return;
-    }
-    OnNext(nullptr);
-}
+#include <QItemSelectionModel>
 
 // ---- Playlist (mainwindow/playlist) ----
 void MainWindowDelegate::OnOpenMediaFile(QObject* /*sender*/) {}
 void MainWindowDelegate::OnRemoveMediaFile(QObject* /*sender*/) {}
 void MainWindowDelegate::OnDoubleClickMediaItem(QObject* /*sender*/) {}
-void MainWindowDelegate::AddedMovies(QObject* /*sender*/, const std::vector<std::filesystem::path>& /*movies*/) {}
+void MainWindowDelegate::AddedMovies(QObject* /*sender*/, const std::vector<std::filesystem::path>& movies) {
+    const bool startPlaying = playlist.empty() && !movies.empty();
+    playlist.insert(playlist.end(), movies.begin(), movies.end());
+    if (startPlaying) playWithIndex(0, true);
+    UpdateControls();
+}
 
+
+int64_t MainWindowDelegate::selectedRow() const {
+    const GPSTableView* table = outlets_.playListView;
+    if (table == nullptr || table->selectionModel() == nullptr) return -1;
+    const QModelIndexList rows = table->selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.front().row();
+}
+
+void MainWindowDelegate::selectRow(int64_t row) {
+    if (outlets_.playListView != nullptr) outlets_.playListView->selectRow(static_cast<int>(row));
+}
+
+const std::filesystem::path& MainWindowDelegate::playlistURL(int64_t row) const {
+    return playlist.at(static_cast<std::size_t>(row));
+}

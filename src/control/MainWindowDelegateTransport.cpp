@@ -1,0 +1,289 @@
+// The controller's transport commands: the handlers that buttons, keys and the end of a movie run,
+// the choice of the playlist entry to play, the answers to the engine, and the states of the
+// transport buttons. The rules themselves live in PlaylistNavigation, SliderStep, SoundRules and
+// TransportButtonStates; this file applies them to the window.
+
+#include "MainWindowDelegate.h"
+
+#include "GPSPlayerView.h"
+#include "PlayControlDispatch.h"
+#include "PlaylistNavigation.h"
+#include "SliderFraction.h"
+#include "SliderStep.h"
+#include "SoundRules.h"
+#include "TransportButtonStates.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QFile>
+#include <QLabel>
+#include <QSlider>
+
+namespace {
+
+constexpr float kNormalRate = 1.0f;
+constexpr float kFastRate = 2.0f;
+
+void setEnabled(QWidget* widget, bool enabled) {
+    if (widget != nullptr) widget->setEnabled(enabled);
+}
+
+void setHidden(QWidget* widget, bool hidden) {
+    if (widget != nullptr) widget->setHidden(hidden);
+}
+
+}  // namespace
+
+GPSPlayerEngine* MainWindowDelegate::engine() const {
+    return outlets_.player != nullptr ? &outlets_.player->engine() : nullptr;
+}
+
+void MainWindowDelegate::OnPlay(QObject* sender) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr) return;
+    switch (PlaylistNavigation::play(sender != nullptr, playlist.size(), player->IsReady())) {
+    case PlaylistNavigation::PlayStep::Nothing:
+        return;
+    case PlaylistNavigation::PlayStep::OpenPanel:
+        OnOpenMediaFile(nullptr);
+        return;
+    case PlaylistNavigation::PlayStep::Resume:
+        if (player->speed() != kNormalRate) player->setSpeed(kNormalRate);
+        player->Resume();
+        UpdateControls();
+        return;
+    case PlaylistNavigation::PlayStep::PlaySelectedRow:
+        playWithIndex(selectedRow(), true);
+        return;
+    }
+}
+
+void MainWindowDelegate::OnPause(QObject* /*sender*/) {
+    if (GPSPlayerEngine* player = engine()) player->Pause();
+    UpdateControls();
+}
+
+void MainWindowDelegate::OnStop(QObject* /*sender*/) {
+    if (GPSPlayerEngine* player = engine()) player->Stop();
+    ResetControls();
+    UpdateControls();
+}
+
+void MainWindowDelegate::OnPrev(QObject* /*sender*/) { playWithIndex(PlaylistNavigation::previousIndex(curIndex), true); }
+
+void MainWindowDelegate::OnNext(QObject* sender) {
+    // Without a sender (the end of a movie) the next entry is only loaded: the user starts it.
+    playWithIndex(PlaylistNavigation::nextIndex(curIndex, playlist.size()), sender != nullptr);
+}
+
+void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr) return;
+    switch (PlaylistNavigation::playWithIndex(index, playlist.size(), player->IsReady(), curIndex)) {
+    case PlaylistNavigation::IndexStep::Ignore:
+        return;
+    case PlaylistNavigation::IndexStep::Restart:
+        if (outlets_.durationSlider != nullptr) setSliderFraction(*outlets_.durationSlider, 0.0);
+        player->Seek(0.0);
+        break;
+    case PlaylistNavigation::IndexStep::Load: {
+        OnStop(nullptr);
+        curIndex = index;
+        selectRow(index);
+        const std::filesystem::path& url = playlistURL(index);
+        player->setMovie(url);
+        if (outlets_.txtTitle != nullptr) outlets_.txtTitle->setText(QFile::decodeName(url.c_str()));
+        break;
+    }
+    }
+    RefreshUnits();
+    // A file that no longer plays (deleted, or broken since it was added) leaves the engine empty;
+    // playing it would come back here to load it again, without end.
+    if (autoPlay && player->IsReady())
+        OnPlay(outlets_.btPlay);
+    else
+        UpdateControls();
+}
+
+void MainWindowDelegate::OnBackward(QObject* /*sender*/) {
+    GPSPlayerEngine* player = engine();
+    QSlider* slider = outlets_.durationSlider;
+    if (player == nullptr || slider == nullptr) return;
+    if (const auto value = SliderStep::down(sliderFraction(*slider), player->seekUnit())) {
+        setSliderFraction(*slider, *value);
+        OnDurationChanged(slider);
+    }
+}
+
+void MainWindowDelegate::OnForward(QObject* /*sender*/) {
+    GPSPlayerEngine* player = engine();
+    QSlider* slider = outlets_.durationSlider;
+    if (player == nullptr || slider == nullptr) return;
+    if (const auto value = SliderStep::up(sliderFraction(*slider), player->seekUnit())) {
+        setSliderFraction(*slider, *value);
+        OnDurationChanged(slider);
+    }
+}
+
+void MainWindowDelegate::OnDurationChanged(QObject* /*sender*/) {
+    GPSPlayerEngine* player = engine();
+    if (player != nullptr && outlets_.durationSlider != nullptr) player->Seek(sliderFraction(*outlets_.durationSlider));
+    UpdateControls();
+}
+
+void MainWindowDelegate::VolumeDown() {
+    QSlider* slider = outlets_.volumeSlider;
+    if (slider == nullptr) return;
+    if (const auto value = SliderStep::down(sliderFraction(*slider), SliderStep::kVolumeStep)) {
+        setSliderFraction(*slider, *value);
+        OnVolumeChanged(slider);
+    }
+}
+
+void MainWindowDelegate::VolumeUp() {
+    QSlider* slider = outlets_.volumeSlider;
+    if (slider == nullptr) return;
+    if (const auto value = SliderStep::up(sliderFraction(*slider), SliderStep::kVolumeStep)) {
+        setSliderFraction(*slider, *value);
+        OnVolumeChanged(slider);
+    }
+}
+
+void MainWindowDelegate::OnVolumeChanged(QObject* /*sender*/) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr || outlets_.volumeSlider == nullptr) return;
+    const double volume = sliderFraction(*outlets_.volumeSlider);
+    switch (SoundRules::forVolume(volume, player->muted())) {
+    case SoundRules::Switch::None:
+        break;
+    case SoundRules::Switch::Mute:
+        OnMute(nullptr);
+        break;
+    case SoundRules::Switch::Unmute:
+        OnSound(nullptr);
+        break;
+    }
+    player->setVolume(volume);
+}
+
+namespace {
+
+void applySound(const SoundRules::Outcome& outcome, GPSPlayerEngine& player, const MainWindowOutlets& o) {
+    if (outcome.setEngineMuted) player.setMuted(*outcome.setEngineMuted);
+    setHidden(o.btMute, !outcome.muteShown);
+    setHidden(o.btSound, outcome.muteShown);
+    if (outcome.volumeSlider && o.volumeSlider != nullptr) setSliderFraction(*o.volumeSlider, *outcome.volumeSlider);
+}
+
+}  // namespace
+
+void MainWindowDelegate::OnMute(QObject* sender) {
+    if (GPSPlayerEngine* player = engine())
+        applySound(SoundRules::mute(player->muted(), sender != nullptr), *player, outlets_);
+}
+
+void MainWindowDelegate::OnSound(QObject* sender) {
+    if (GPSPlayerEngine* player = engine())
+        applySound(SoundRules::sound(player->muted(), sender != nullptr, player->volume()), *player, outlets_);
+}
+
+void MainWindowDelegate::SpeedUp() {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr || player->speed() == kFastRate) return;
+    player->setSpeed(kFastRate);
+    UpdatePlayingStatus();
+}
+
+void MainWindowDelegate::SpeedDown() {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr || player->speed() == -kFastRate) return;
+    player->setSpeed(-kFastRate);
+    UpdatePlayingStatus();
+}
+
+void MainWindowDelegate::OnToggleFullscreen(QObject* /*sender*/) {
+    if (outlets_.player != nullptr) outlets_.player->toggleFullscreen();
+}
+
+void MainWindowDelegate::UpdateControls() {
+    const GPSPlayerEngine* player = engine();
+    const ControlStates states = TransportButtonStates::controlsFor({
+        .ready = player != nullptr && player->IsReady(),
+        .curIndex = curIndex,
+        .count = playlist.size(),
+        .progress = outlets_.durationSlider != nullptr ? sliderFraction(*outlets_.durationSlider) : 0.0,
+    });
+    const MainWindowOutlets& o = outlets_;
+    setEnabled(o.btPrev, states.prevEnabled);
+    setEnabled(o.btBackward, states.backwardEnabled);
+    setEnabled(o.btForward, states.forwardEnabled);
+    setEnabled(o.btNext, states.nextEnabled);
+    setEnabled(o.btStop, states.stopEnabled);
+    setEnabled(o.btSnapshot, states.snapshotEnabled);
+    setEnabled(o.durationSlider, states.durationSliderEnabled);
+}
+
+void MainWindowDelegate::UpdatePlayingStatus() {
+    const GPSPlayerEngine* player = engine();
+    const PlayingStates states = TransportButtonStates::playingStatusFor({
+        .ready = player != nullptr && player->IsReady(),
+        .isPlaying = player != nullptr && player->IsPlaying(),
+        .speed = player != nullptr ? player->speed() : kNormalRate,
+    });
+    const MainWindowOutlets& o = outlets_;
+    setHidden(o.btPause, !states.pauseShown);
+    setHidden(o.btPlay, !states.playShown);
+    setEnabled(o.btStop, states.stopEnabled);
+}
+
+QAbstractButton* MainWindowDelegate::buttonOf(TransportButton button) const {
+    const MainWindowOutlets& o = outlets_;
+    switch (button) {
+    case TransportButton::Prev: return o.btPrev;
+    case TransportButton::Backward: return o.btBackward;
+    case TransportButton::Play: return o.btPlay;
+    case TransportButton::Pause: return o.btPause;
+    case TransportButton::Forward: return o.btForward;
+    case TransportButton::Next: return o.btNext;
+    case TransportButton::Stop: return o.btStop;
+    case TransportButton::Snapshot: return o.btSnapshot;
+    case TransportButton::ToggleFullscreen: return o.btToggleFullscreen;
+    }
+    return nullptr;
+}
+
+bool MainWindowDelegate::isButtonEnabled(TransportButton button) const {
+    const QAbstractButton* b = buttonOf(button);
+    return b != nullptr && b->isEnabled();
+}
+
+bool MainWindowDelegate::isButtonHidden(TransportButton button) const {
+    // isHidden, not !isVisible: a button counts as shown while its window is minimised or not yet up.
+    const QAbstractButton* b = buttonOf(button);
+    return b == nullptr || b->isHidden();
+}
+
+void MainWindowDelegate::didPerformPlayControl(QObject* sender, uint64_t playControl) {
+    PlayControlDispatch::perform(*this, sender, playControl);
+}
+
+void MainWindowDelegate::UpdateDuration(GPSPlayerEngine& /*engine*/, double progress) {
+    // While the user drags the knob, the knob is theirs: the seek follows when they let go.
+    if (outlets_.durationSlider != nullptr && !outlets_.durationSlider->isSliderDown())
+        setSliderFraction(*outlets_.durationSlider, progress);
+    UpdateControls();
+}
+
+void MainWindowDelegate::UpdatedPlayingStatus(GPSPlayerEngine& /*engine*/, bool /*playing*/) { UpdatePlayingStatus(); }
+
+void MainWindowDelegate::Completed(GPSPlayerEngine& /*engine*/) {
+    if (quitAtEnd_) {
+        // The end is reported on every tick there; quit once.
+        if (!quitting_) {
+            quitting_ = true;
+            QCoreApplication::quit();
+        }
+        return;
+    }
+    OnNext(nullptr);
+}

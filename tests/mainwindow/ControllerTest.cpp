@@ -1,0 +1,208 @@
+// The window's controller driven as the window drives it, with a scripted player behind the movie
+// view: the transport commands, the choice of the entry to play, the end of a movie, the volume and
+// mute rules, the dispatch of play control codes and the button states they leave behind.
+
+#include "ControllerHarness.h"
+
+#include "GPSPlayControl.h"
+#include "SliderFraction.h"
+
+#include <QFileDialog>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class ControllerTest : public ControllerHarness, public ::testing::Test {};
+
+TEST_F(ControllerTest, NothingLoadedDisablesEveryTransportControl) {
+    controller.windowDidBecomeMain();
+    for (QWidget* control : {static_cast<QWidget*>(btPrev), static_cast<QWidget*>(btBackward),
+                             static_cast<QWidget*>(btForward), static_cast<QWidget*>(btNext),
+                             static_cast<QWidget*>(btStop), static_cast<QWidget*>(btSnapshot),
+                             static_cast<QWidget*>(durationSlider)})
+        EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
+    EXPECT_EQ(controller.curIndex, -1);
+    EXPECT_TRUE(btPause->isHidden());
+    EXPECT_FALSE(btPlay->isHidden());
+}
+
+TEST_F(ControllerTest, AddingToAnEmptyPlaylistPlaysTheFirstEntryAndLaterAdditionsDoNot) {
+    addMovies(3);
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_EQ(factory->requested.size(), 1u);
+    EXPECT_TRUE(playing());
+    EXPECT_EQ(txtTitle->text().toStdString(), movie(0).string());
+
+    controller.AddedMovies(nullptr, {movie(0)});
+    EXPECT_EQ(factory->requested.size(), 1u) << "adding while a movie is loaded changes nothing that plays";
+    EXPECT_EQ(controller.curIndex, 0);
+}
+
+TEST_F(ControllerTest, PrevAndNextStayInsideThePlaylist) {
+    addMovies(3);
+    // On the first entry Prev restarts it: back to 0, no reload, played.
+    setSliderFraction(*durationSlider, 0.5);
+    controller.OnPrev(btPrev);
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_EQ(factory->requested.size(), 1u);
+    EXPECT_EQ(sliderFraction(*durationSlider), 0.0);
+    ASSERT_FALSE(player->seeks.empty());
+    EXPECT_EQ(player->seeks.back().seconds(), 0.0);
+
+    controller.OnNext(btNext);
+    controller.OnNext(btNext);
+    EXPECT_EQ(controller.curIndex, 2);
+    EXPECT_EQ(factory->requested.size(), 3u);
+    EXPECT_FALSE(btNext->isEnabled()) << "the last entry has no next";
+    EXPECT_TRUE(btPrev->isEnabled());
+
+    // Next on the last restarts it, and a code for a disabled button does nothing.
+    controller.OnNext(btNext);
+    EXPECT_EQ(controller.curIndex, 2);
+    EXPECT_EQ(factory->requested.size(), 3u);
+    controller.didPerformPlayControl(controlView, GPSPlayControlNext);
+    EXPECT_EQ(factory->requested.size(), 3u);
+
+    // After Stop, both Prev and Next start the first entry.
+    for (const bool viaNext : {true, false}) {
+        controller.OnStop(btStop);
+        EXPECT_EQ(controller.curIndex, -1);
+        EXPECT_TRUE(txtTitle->text().isEmpty());
+        EXPECT_FALSE(playing());
+        viaNext ? controller.OnNext(btNext) : controller.OnPrev(btPrev);
+        EXPECT_EQ(controller.curIndex, 0);
+        EXPECT_EQ(factory->requested.back(), movie(0));
+        EXPECT_TRUE(playing());
+    }
+}
+
+TEST_F(ControllerTest, TheEndOfAMovieLoadsTheNextPausedAndTheLastGoesBackToItsStart) {
+    addMovies(3);
+    controller.OnNext(btNext);
+    ASSERT_EQ(controller.curIndex, 1);
+
+    finishMovie();
+    EXPECT_EQ(controller.curIndex, 2);
+    EXPECT_EQ(factory->requested.back(), movie(2));
+    EXPECT_FALSE(playing()) << "the next entry waits for the user";
+
+    finishMovie();
+    EXPECT_EQ(controller.curIndex, 2);
+    EXPECT_EQ(factory->requested.size(), 3u) << "no wrap to the first entry";
+    EXPECT_EQ(player->seeks.back().seconds(), 0.0);
+    EXPECT_FALSE(playing());
+}
+
+TEST_F(ControllerTest, TenSecondStepsStopAtEitherEnd) {
+    addMovies(1);  // 100 s long: ten seconds are 0.1
+    const struct {
+        double from;
+        uint64_t code;
+        double to;
+        bool seeks;
+    } cases[] = {
+        {0.95, GPSPlayControlForward, 1.0, true},
+        {1.0, GPSPlayControlForward, 1.0, false},
+        {0.03, GPSPlayControlBackward, 0.0, true},
+        {0.5, GPSPlayControlBackward, 0.4, true},
+    };
+    for (const auto& c : cases) {
+        setSliderFraction(*durationSlider, c.from);
+        controller.UpdateControls();
+        const size_t seeks = player->seeks.size();
+        controller.didPerformPlayControl(controlView, c.code);
+        EXPECT_NEAR(sliderFraction(*durationSlider), c.to, 1e-4) << c.from;
+        EXPECT_EQ(player->seeks.size(), seeks + (c.seeks ? 1 : 0)) << c.from;
+        EXPECT_EQ(btForward->isEnabled(), c.to < 1.0) << c.from;
+        EXPECT_EQ(btBackward->isEnabled(), c.to > 0.0) << c.from;
+        if (c.seeks) {
+            EXPECT_NEAR(player->seeks.back().seconds(), c.to * 100.0, 0.01);
+        }
+    }
+}
+
+TEST_F(ControllerTest, VolumeStepsMuteAtZeroAndUnmuteAboveIt) {
+    addMovies(1);
+    setSliderFraction(*volumeSlider, 0.05);
+    controller.OnVolumeChanged(volumeSlider);
+
+    controller.VolumeDown();
+    EXPECT_EQ(sliderFraction(*volumeSlider), 0.0);
+    EXPECT_TRUE(player->muted);
+    EXPECT_FALSE(btMute->isHidden());
+    EXPECT_TRUE(btSound->isHidden());
+    settings.utils().flush();
+    EXPECT_EQ(settings.utils().volume(), 0.0f);
+
+    controller.VolumeUp();
+    EXPECT_NEAR(sliderFraction(*volumeSlider), 0.1, 1e-9);
+    EXPECT_FALSE(player->muted);
+    EXPECT_TRUE(btMute->isHidden());
+    EXPECT_NEAR(settings.utils().volume(), 0.1f, 1e-6);
+}
+
+TEST_F(ControllerTest, TheSoundButtonsMoveTheSliderButKeepTheStoredVolume) {
+    addMovies(1);
+    setSliderFraction(*volumeSlider, 0.6);
+    controller.OnVolumeChanged(volumeSlider);
+
+    controller.OnMute(btSound);
+    EXPECT_TRUE(player->muted);
+    EXPECT_EQ(sliderFraction(*volumeSlider), 0.0);
+    EXPECT_NEAR(settings.utils().volume(), 0.6f, 1e-6) << "muting is not a volume of 0";
+
+    controller.OnSound(btMute);
+    EXPECT_FALSE(player->muted);
+    EXPECT_NEAR(sliderFraction(*volumeSlider), 0.6, 1e-9);
+    EXPECT_FALSE(btSound->isHidden());
+}
+
+TEST_F(ControllerTest, FastRatesShowThePlayButtonWhichGoesBackToNormal) {
+    addMovies(1);
+    controller.OnPause(btPause);
+    controller.didPerformPlayControl(controlView, GPSPlayControlSpeedUp);
+    EXPECT_EQ(player->rate, 2.0f);
+    EXPECT_FALSE(btPlay->isHidden()) << "at 2x the play button returns to 1x";
+
+    controller.didPerformPlayControl(controlView, GPSPlayControlPlayPause);
+    EXPECT_EQ(player->rate, 1.0f);
+    EXPECT_TRUE(btPlay->isHidden());
+    EXPECT_FALSE(btPause->isHidden());
+
+    controller.didPerformPlayControl(controlView, GPSPlayControlPlayPause);
+    EXPECT_EQ(player->rate, 0.0f);
+    EXPECT_FALSE(btPlay->isHidden());
+
+    controller.didPerformPlayControl(controlView, GPSPlayControlSpeedDown);
+    EXPECT_EQ(player->rate, -2.0f);
+    controller.didPerformPlayControl(controlView, GPSPlayControlNone);
+    EXPECT_EQ(player->rate, -2.0f);
+}
+
+TEST_F(ControllerTest, AnEntryThatNoLongerPlaysIsLoadedOnceAndLeftStopped) {
+    factory->next = nullptr;  // every file fails to open from now on
+    controller.AddedMovies(nullptr, {movie(0), movie(1)});
+    EXPECT_EQ(factory->requested.size(), 1u);
+    EXPECT_FALSE(view->engine().IsReady());
+    controller.OnNext(btNext);
+    EXPECT_EQ(factory->requested.size(), 2u);
+    EXPECT_FALSE(btStop->isEnabled());
+}
+
+TEST_F(ControllerTest, ProgressLeavesTheKnobAloneWhileTheUserHoldsIt) {
+    addMovies(1);
+    controller.UpdateDuration(view->engine(), 0.25);
+    EXPECT_NEAR(sliderFraction(*durationSlider), 0.25, 1e-4);
+    durationSlider->setSliderDown(true);
+    controller.UpdateDuration(view->engine(), 0.75);
+    EXPECT_NEAR(sliderFraction(*durationSlider), 0.25, 1e-4);
+    durationSlider->setSliderDown(false);
+}
+
+TEST_F(ControllerTest, SnapshotOpensADialogOnlyWhenThereIsAFrame) {
+    controller.OnSnapshot(btSnapshot);
+    EXPECT_EQ(window.findChild<QFileDialog*>(), nullptr) << "nothing loaded: no dialog";
+}
+
+}  // namespace
