@@ -12,23 +12,7 @@
 #include <QCommandLineParser>
 
 #include <clocale>
-#include <filesystem>
 #include <optional>
-#include <system_error>
-
-namespace {
-
-// The movie files given join the playlist; folders wait for the playlist's folder scan.
-void openArguments(MainWindow& window, const std::vector<std::filesystem::path>& arguments) {
-    std::vector<std::filesystem::path> movies;
-    for (const auto& movie : arguments) {
-        std::error_code error;
-        if (std::filesystem::is_regular_file(movie, error)) movies.push_back(movie);
-    }
-    window.controller().AddedMovies(nullptr, movies);
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -63,7 +47,7 @@ int main(int argc, char** argv) {
     // would, and the window's set-up waits for its first activation.
     window.activateWindow();
     // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
-    openArguments(window, movieArguments(argc, argv));
+    window.controller().openArguments(movieArguments(argc, argv));
     const int status = QApplication::exec();
     // Settings are written in the background; the last change must be on disk before we go.
     settings.flush();

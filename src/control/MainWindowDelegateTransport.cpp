@@ -32,6 +32,18 @@ void setHidden(QWidget* widget, bool hidden) {
     if (widget != nullptr) widget->setHidden(hidden);
 }
 
+enum class Step { Down, Up };
+
+// Moves a 0-to-1 slider one step; false when there is no slider or it is already at that end.
+bool stepSlider(QSlider* slider, Step direction, double step) {
+    if (slider == nullptr) return false;
+    const double value = sliderFraction(*slider);
+    const auto moved = direction == Step::Up ? SliderStep::up(value, step) : SliderStep::down(value, step);
+    if (!moved) return false;
+    setSliderFraction(*slider, *moved);
+    return true;
+}
+
 }  // namespace
 
 GPSPlayerEngine* MainWindowDelegate::engine() const {
@@ -107,22 +119,14 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
 
 void MainWindowDelegate::OnBackward(QObject* /*sender*/) {
     GPSPlayerEngine* player = engine();
-    QSlider* slider = outlets_.durationSlider;
-    if (player == nullptr || slider == nullptr) return;
-    if (const auto value = SliderStep::down(sliderFraction(*slider), player->seekUnit())) {
-        setSliderFraction(*slider, *value);
-        OnDurationChanged(slider);
-    }
+    if (player != nullptr && stepSlider(outlets_.durationSlider, Step::Down, player->seekUnit()))
+        OnDurationChanged(outlets_.durationSlider);
 }
 
 void MainWindowDelegate::OnForward(QObject* /*sender*/) {
     GPSPlayerEngine* player = engine();
-    QSlider* slider = outlets_.durationSlider;
-    if (player == nullptr || slider == nullptr) return;
-    if (const auto value = SliderStep::up(sliderFraction(*slider), player->seekUnit())) {
-        setSliderFraction(*slider, *value);
-        OnDurationChanged(slider);
-    }
+    if (player != nullptr && stepSlider(outlets_.durationSlider, Step::Up, player->seekUnit()))
+        OnDurationChanged(outlets_.durationSlider);
 }
 
 void MainWindowDelegate::OnDurationChanged(QObject* /*sender*/) {
@@ -132,21 +136,11 @@ void MainWindowDelegate::OnDurationChanged(QObject* /*sender*/) {
 }
 
 void MainWindowDelegate::VolumeDown() {
-    QSlider* slider = outlets_.volumeSlider;
-    if (slider == nullptr) return;
-    if (const auto value = SliderStep::down(sliderFraction(*slider), SliderStep::kVolumeStep)) {
-        setSliderFraction(*slider, *value);
-        OnVolumeChanged(slider);
-    }
+    if (stepSlider(outlets_.volumeSlider, Step::Down, SliderStep::kVolumeStep)) OnVolumeChanged(outlets_.volumeSlider);
 }
 
 void MainWindowDelegate::VolumeUp() {
-    QSlider* slider = outlets_.volumeSlider;
-    if (slider == nullptr) return;
-    if (const auto value = SliderStep::up(sliderFraction(*slider), SliderStep::kVolumeStep)) {
-        setSliderFraction(*slider, *value);
-        OnVolumeChanged(slider);
-    }
+    if (stepSlider(outlets_.volumeSlider, Step::Up, SliderStep::kVolumeStep)) OnVolumeChanged(outlets_.volumeSlider);
 }
 
 void MainWindowDelegate::OnVolumeChanged(QObject* /*sender*/) {

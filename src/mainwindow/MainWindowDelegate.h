@@ -6,6 +6,7 @@
 #include "GPSControlViewDelegate.h"
 #include "GPSPlayerViewDelegate.h"
 #include "MainWindowOutlets.h"
+#include "Playlist.h"
 #include "TransportCommands.h"
 
 #include <QObject>
@@ -18,6 +19,8 @@
 class GPSInfoPanel;
 class GPSPlayerEngine;
 class GPSUtils;
+class MovieScan;
+class PlaylistTableModel;
 class QAbstractButton;
 class QAction;
 
@@ -82,7 +85,12 @@ public:
     void UpdatedPlayingStatus(GPSPlayerEngine& engine, bool playing) override;
     void Completed(GPSPlayerEngine& engine) override;
 
-    // The playlist (mainwindow/playlist).
+    // The playlist (mainwindow/).
+    // Appends the movies, sorts, shows them, and plays the first entry when the playlist was empty.
+    // Movies that arrive before the window's set-up wait for it.
+    void addToPlaylist(const std::vector<std::filesystem::path>& movies);
+    // The command line's files and folders, scanned off the UI thread like the open dialog's folder.
+    void openArguments(const std::vector<std::filesystem::path>& arguments);
     void OnOpenMediaFile(QObject* sender);
     void OnRemoveMediaFile(QObject* sender);
     void OnDoubleClickMediaItem(QObject* sender);
@@ -95,8 +103,7 @@ public:
 
 
     bool isInited = false;
-    // Placeholder until the playlist's entries arrive: the movies in display order.
-    std::vector<std::filesystem::path> playlist;
+    Playlist playlist;
     // The playlist position of the movie in the player; -1 for none.
     int64_t curIndex = -1;
 
@@ -108,12 +115,17 @@ private:
     int64_t selectedRow() const;
     void selectRow(int64_t row);
     const std::filesystem::path& playlistURL(int64_t row) const;
+    void setupPlaylistTable();
+    // Adds a scan's movies when it finishes, with a progress dialog if it takes a while.
+    void watchScan(MovieScan* scan);
 
     // The read-out labels of the outlets, as the panel that writes them.
     GPSInfoPanel infoPanel() const;
 
     GPSUtils& settings_;
     MainWindowOutlets outlets_;
+    PlaylistTableModel* playlistModel_ = nullptr;  // a child of the controller
+    std::vector<std::filesystem::path> pendingMovies_;
     bool quitAtEnd_ = false;
     bool quitting_ = false;
 };

@@ -29,6 +29,10 @@ void MainWindowDelegate::windowDidBecomeMain() {
     // Before the controls: the font they ask for depends on whether registration worked.
     LEDFontManager::Register();
     setupControls();
+    if (!pendingMovies_.empty()) {
+        addToPlaylist(std::exchange(pendingMovies_, {}));
+        UpdateControls();
+    }
 }
 
 void MainWindowDelegate::setupControls() {
@@ -38,6 +42,7 @@ void MainWindowDelegate::setupControls() {
     if (o.volumeSlider != nullptr && o.player != nullptr)
         setSliderFraction(*o.volumeSlider, o.player->engine().volume());
 
+    setupPlaylistTable();
     RefreshMenu();
     RefreshUnits();
     ResetControls();
@@ -57,6 +62,7 @@ void MainWindowDelegate::OnUnitChanged(QAction* sender) {
     if (sender == nullptr) return;
     // An item without a tag counts as tag 0, as a menu item's default tag would.
     settings_.setUnitType(sender->data().toULongLong());
+    setupPlaylistTable();
     RefreshMenu();
     RefreshUnits();
 }

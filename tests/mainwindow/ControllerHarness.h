@@ -24,7 +24,10 @@
 
 class ControllerHarness {
 public:
-    ControllerHarness() : controller(settings.utils()) {
+    struct NotActivated {};
+    ControllerHarness() : ControllerHarness(NotActivated{}) { controller.windowDidBecomeMain(); }
+    // The window has not become main yet: nothing is set up.
+    explicit ControllerHarness(NotActivated) : controller(settings.utils()) {
         static const char* const names[] = {"index_mp4.mp4", "index_scaled.mov", "index_fixed.mov", "nogps.mov"};
         for (int i = 0; i < 4; ++i) {
             movies_.push_back(std::filesystem::path(moviesDir_.path().toStdString()) /
@@ -60,13 +63,13 @@ public:
         controller.setOutlets(o);
         view->engine().setDelegate(&controller);
         controlView->setDelegate(&controller);
-        controller.windowDidBecomeMain();
     }
     ~ControllerHarness() { view->engine().setDelegate(nullptr); }
 
     // Copies made one after the other, so that their creation times sort them in this order; the
     // scripted player plays them whatever they hold.
     const std::filesystem::path& movie(int i) const { return movies_.at(static_cast<std::size_t>(i)); }
+    std::filesystem::path moviesFolder() const { return moviesDir_.path().toStdString(); }
     // Added one by one, oldest first, so that the sort keeps this order.
     void addMovies(int count) {
         std::vector<std::filesystem::path> movies;

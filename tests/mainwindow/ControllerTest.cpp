@@ -7,7 +7,10 @@
 #include "GPSPlayControl.h"
 #include "SliderFraction.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
+#include <QImage>
+#include <QThreadPool>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +35,7 @@ TEST_F(ControllerTest, AddingToAnEmptyPlaylistPlaysTheFirstEntryAndLaterAddition
     EXPECT_EQ(controller.curIndex, 0);
     EXPECT_EQ(factory->requested.size(), 1u);
     EXPECT_TRUE(playing());
+    EXPECT_EQ(selectedRow(), 0);
     EXPECT_EQ(txtTitle->text().toStdString(), movie(0).string());
 
     controller.AddedMovies(nullptr, {movie(0)});
@@ -85,6 +89,7 @@ TEST_F(ControllerTest, TheEndOfAMovieLoadsTheNextPausedAndTheLastGoesBackToItsSt
     finishMovie();
     EXPECT_EQ(controller.curIndex, 2);
     EXPECT_EQ(factory->requested.back(), movie(2));
+    EXPECT_EQ(selectedRow(), 2);
     EXPECT_FALSE(playing()) << "the next entry waits for the user";
 
     finishMovie();
@@ -180,6 +185,22 @@ TEST_F(ControllerTest, FastRatesShowThePlayButtonWhichGoesBackToNormal) {
     EXPECT_EQ(player->rate, -2.0f);
 }
 
+TEST_F(ControllerTest, PlayWithNothingLoadedPlaysTheSelectedRowOrNothing) {
+    addMovies(2);
+    controller.OnStop(btStop);
+    clearSelection();
+    const size_t loads = factory->requested.size();
+    controller.OnPlay(btPlay);
+    EXPECT_EQ(factory->requested.size(), loads) << "no row selected: nothing";
+    controller.OnPlay(nullptr);
+    EXPECT_EQ(factory->requested.size(), loads);
+
+    selectRow(1);
+    controller.OnPlay(btPlay);
+    EXPECT_EQ(controller.curIndex, 1);
+    EXPECT_EQ(factory->requested.back(), movie(1));
+}
+
 TEST_F(ControllerTest, AnEntryThatNoLongerPlaysIsLoadedOnceAndLeftStopped) {
     factory->next = nullptr;  // every file fails to open from now on
     controller.AddedMovies(nullptr, {movie(0), movie(1)});
@@ -200,9 +221,29 @@ TEST_F(ControllerTest, ProgressLeavesTheKnobAloneWhileTheUserHoldsIt) {
     durationSlider->setSliderDown(false);
 }
 
-TEST_F(ControllerTest, SnapshotOpensADialogOnlyWhenThereIsAFrame) {
+TEST_F(ControllerTest, SnapshotIsTakenAtOnceAndWrittenOnlyWhereTheUserAccepts) {
     controller.OnSnapshot(btSnapshot);
     EXPECT_EQ(window.findChild<QFileDialog*>(), nullptr) << "nothing loaded: no dialog";
+
+    addMovies(1);
+    player->at(2.5);
+    const QString target = QString::fromStdString((moviesFolder() / "shot.png").string());
+    for (const bool accept : {false, true}) {
+        controller.OnSnapshot(btSnapshot);
+        auto* dialog = window.findChild<QFileDialog*>(QStringLiteral("snapshotDialog"));
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_TRUE(playing()) << "the movie plays on behind the dialog";
+        if (accept) emit dialog->fileSelected(target);
+        dialog->close();
+        QCoreApplication::processEvents();
+        QThreadPool::globalInstance()->waitForDone();
+        QImage saved(target);
+        EXPECT_EQ(!saved.isNull(), accept);
+        if (accept) {
+            EXPECT_EQ(saved.size(), QSize(320, 180)) << "the movie's own pixel size";
+        }
+    }
 }
 
 }  // namespace

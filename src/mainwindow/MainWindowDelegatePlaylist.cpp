@@ -35,7 +35,7 @@ void MainWindowDelegate::setupPlaylistTable() {
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setShowGrid(false);
     table->setWordWrap(false);
-    table->setTextElideMode(Qt::ElideMiddle);  // a path's beginning and its file name both matter
+    table->setTextElideMode(Qt::ElideLeft);  // the file name is the end of the path: keep it
     QHeaderView* rows = table->verticalHeader();
     rows->hide();
     rows->setSectionResizeMode(QHeaderView::Fixed);
@@ -108,7 +108,14 @@ void MainWindowDelegate::watchScan(MovieScan* scan) {
 
 void MainWindowDelegate::openArguments(const std::vector<std::filesystem::path>& arguments) {
     if (arguments.empty()) return;
-    watchScan(MovieScan::commandLine(settings_.sharedVideoTrackProbe(), arguments, this));
+    // Whole paths, so that the title and the table say where a clip is whatever the start folder.
+    std::vector<std::filesystem::path> absolute;
+    for (const auto& argument : arguments) {
+        std::error_code error;
+        std::filesystem::path whole = std::filesystem::absolute(argument, error);
+        absolute.push_back(error ? argument : whole.lexically_normal());
+    }
+    watchScan(MovieScan::commandLine(settings_.sharedVideoTrackProbe(), std::move(absolute), this));
 }
 
 void MainWindowDelegate::OnOpenMediaFile(QObject* /*sender*/) {
