@@ -331,6 +331,10 @@ class Session:
                  lambda: (self.current_clip() == following, self.window.text("Title")))
         wait_for(f"the position to go back near the start of {following.name}",
                  lambda: ((t := self.window.position() * following.seconds) < 5, f"{t:.2f} s"))
+        # A command from the keyboard plays the clip it loads.
+        wait_for(f"{following.name} playing (the Pause button)", lambda: (self.playing(), self.buttons()))
+        wait_for("a speed other than zero", lambda: ((s := self.window.text("Speed")) not in ("", "00.00"), s))
+        self.samples(3)
         self.shoot("next-clip")
         print(f"e2e: Ctrl+Right loads {following.name}")
 
