@@ -190,6 +190,7 @@ class Session:
         self.route = Route(args.route)
         self.clips = [Clip(n, int(f), int(s)) for n, f, s in (c.split(":") for c in args.clip)]
         self.out = Path(args.out)
+        self.out.mkdir(parents=True, exist_ok=True)
         self.step = 0
         log = open(self.out / "dashtrack.log", "wb")
         self.process = subprocess.Popen([args.app, *args.open], stdout=log, stderr=subprocess.STDOUT)
