@@ -1,6 +1,7 @@
 // dashtrack: the main window, with the movies named on the command line.
 
 #include "AppDelegate.h"
+#include "BenchProbe.h"
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"
@@ -11,6 +12,7 @@
 #include <QCommandLineParser>
 
 #include <clocale>
+#include <optional>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -28,8 +30,14 @@ int main(int argc, char** argv) {
     const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),
                                        QStringLiteral("Quit once a movie has played to its end."));
     parser.addOption(quitAtEnd);
+    const QCommandLineOption quitAtFirstFrame(
+        QStringLiteral("quit-at-first-frame"),
+        QStringLiteral("Quit once the first movie's first frame is on screen (for timing launches)."));
+    parser.addOption(quitAtFirstFrame);
     parser.process(app);
 
+    std::optional<BenchProbe> benchProbe;
+    if (BenchProbe::wanted(parser.isSet(quitAtFirstFrame))) benchProbe.emplace(parser.isSet(quitAtFirstFrame));
     MainWindow window(settings);
     window.controller().setQuitAtEnd(parser.isSet(quitAtEnd));
     // Blue while the application is active, grey while not; owned by the window.

@@ -1,5 +1,6 @@
 #include "MpvMediaPlayer.h"
 
+#include "FirstFrameListener.h"
 #include "MpvLogging.h"
 
 #include <mpv/client.h>
@@ -262,6 +263,7 @@ void MpvMediaPlayer::frameShown() {
     if (!firstFrameMs_) {
         firstFrameMs_ = sinceRequested_.elapsed();
         qCInfo(lcMpvStats).noquote() << "first-frame-ms=" + QString::number(*firstFrameMs_);
+        notifyFirstFrameShown();
     }
 }
 

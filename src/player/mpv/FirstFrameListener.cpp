@@ -1,0 +1,13 @@
+#include "FirstFrameListener.h"
+
+namespace {
+
+FirstFrameListener* listener = nullptr;
+
+}  // namespace
+
+void setFirstFrameListener(FirstFrameListener* newListener) { listener = newListener; }
+
+void notifyFirstFrameShown() {
+    if (listener) listener->firstFrameShown();
+}

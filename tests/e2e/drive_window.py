@@ -1,0 +1,425 @@
+#!/usr/bin/python3
+"""Drives the Dashtrack window as a user would and checks what it shows.
+
+Started by e2e-window.sh inside a private D-Bus session under a virtual X display: it launches the
+player on a folder of consecutive clips cut from one route, presses keys with xdotool and uses the
+menus and buttons through the accessibility bus, and reads the window's items the same way (items
+by accessible name, read-outs by accessible description, a read-out's text being its name).
+Each condition is polled until a deadline; a failure says what was expected and what was seen.
+A screenshot of the screen is kept for each step.
+
+  drive_window.py --app DASHTRACK --open CLIP_FOLDER --route ROUTE.csv --out DIR \
+                  --clip NAME:FIRST_SECOND:SECONDS ...
+"""
+
+import argparse
+import csv
+import os
+import re
+import signal
+import subprocess
+import sys
+import time
+from dataclasses import dataclass
+from pathlib import Path
+
+import pyatspi
+
+DEADLINE = 20.0  # seconds a condition may take to come true, generous for a busy machine
+SCREEN = (1920, 1080)
+SPEED_TOLERANCE = 0.015  # the texts have two decimals; neighbouring seconds differ by 0.1 or more
+KNOTS_FACTOR = 1.852  # shown KM/H = shown MPH x this
+
+
+class Failure(Exception):
+    pass
+
+
+@dataclass(frozen=True)
+class Clip:
+    name: str
+    first_second: int  # the route's second at which the clip starts
+    seconds: int
+
+
+class Route:
+    """The speeds of the route the clips were made from, one per second."""
+
+    def __init__(self, path):
+        with open(path, newline="") as file:
+            rows = [row for row in csv.reader(line for line in file if not line.startswith("#"))]
+        self.speeds = [float(row[3]) for row in rows[1:]]
+
+    def speed(self, second, unit):
+        mph = self.speeds[second]
+        return mph * KNOTS_FACTOR if unit == "KM/H" else mph
+
+    def second_of(self, clip, speed_text, unit):
+        """The clip's playback second whose record shows this speed, None if none does. Second 0
+        shows the empty sample before the first record, whose speed reads zero."""
+        value = float(speed_text)
+        if value == 0.0:
+            return 0
+        for k in range(1, clip.seconds + 1):
+            if abs(self.speed(clip.first_second + k, unit) - value) <= SPEED_TOLERANCE:
+                return k
+        return None
+
+
+def wait_for(what, probe, deadline=DEADLINE, interval=0.1):
+    """Polls probe() -> (ok, seen) until ok; returns seen. Raises with the last value seen."""
+    end = time.monotonic() + deadline
+    while True:
+        ok, seen = probe()
+        if ok:
+            return seen
+        if time.monotonic() > end:
+            raise Failure(f"expected {what} within {deadline:.0f} s; saw {seen!r}")
+        time.sleep(interval)
+
+
+def run(*command):
+    return subprocess.run(command, check=True, capture_output=True, text=True).stdout
+
+
+class Window:
+    """The running player as the accessibility bus and the X server show it."""
+
+    def __init__(self, process):
+        self.process = process
+        self.app = wait_for("the player on the accessibility bus", self._find_app)
+        self.window_id = wait_for("a visible Dashtrack window", self._find_x_window)
+        self._items = {}
+
+    def _alive(self):
+        if self.process.poll() is not None:
+            raise Failure(f"the player exited with status {self.process.returncode}")
+
+    def _find_app(self):
+        self._alive()
+        desktop = pyatspi.Registry.getDesktop(0)
+        for index in range(desktop.childCount):
+            app = desktop.getChildAtIndex(index)
+            try:
+                if app is not None and app.get_process_id() == self.process.pid:
+                    return True, app
+            except Exception:  # an application leaving the bus as we look
+                continue
+        return False, "no application with the player's process id"
+
+    def _find_x_window(self):
+        self._alive()
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Dashtrack$"],
+                               capture_output=True, text=True).stdout.split()
+        return bool(found), found[0] if found else "no window"
+
+    def item(self, key, predicate):
+        """The first accessible object below the application that satisfies predicate; looked up
+        once, since the window's items stay while it lives."""
+        if key not in self._items:
+            def probe():
+                self._alive()
+                self.app.clear_cache()
+                found = pyatspi.findDescendant(self.app, predicate, breadth_first=True)
+                return found is not None, found if found is not None else f"no item {key}"
+            self._items[key] = wait_for(f"an item {key}", probe)
+        return self._items[key]
+
+    def named(self, name, roles=None):
+        def matches(acc):
+            return acc is not None and acc.name == name and (roles is None or acc.getRole() in roles)
+        return self.item(f"named {name!r}", matches)
+
+    def readout(self, description):
+        return self.item(f"described {description!r}",
+                         lambda acc: acc is not None and acc.description == description)
+
+    def text(self, description):
+        acc = self.readout(description)
+        acc.clear_cache()
+        return acc.name
+
+    def showing(self, name):
+        acc = self.named(name, (pyatspi.ROLE_PUSH_BUTTON,))
+        acc.clear_cache()
+        return acc.getState().contains(pyatspi.STATE_SHOWING)
+
+    def position(self):
+        """The Position slider's place between its ends, 0 to 1."""
+        acc = self.named("Position", (pyatspi.ROLE_SLIDER,))
+        value = acc.queryValue()
+        low, high = value.minimumValue, value.maximumValue
+        return (value.currentValue - low) / (high - low) if high > low else 0.0
+
+    def press(self, name):
+        acc = self.named(name, (pyatspi.ROLE_PUSH_BUTTON,))
+        acc.queryAction().doAction(0)
+
+    def choose_menu_item(self, name):
+        acc = self.item(f"menu item {name!r}",
+                        lambda a: a is not None and a.name == name
+                        and a.getRole() in (pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_CHECK_MENU_ITEM,
+                                            pyatspi.ROLE_RADIO_MENU_ITEM))
+        action = acc.queryAction()
+        names = [action.getName(i) for i in range(action.nActions)]
+        action.doAction(names.index("Press") if "Press" in names else 0)
+
+    def key(self, keys, window=None):
+        """Types keys into a window, which gets the keyboard focus first as a desktop would give it."""
+        self._alive()
+        run("xdotool", "windowfocus", "--sync", window or self.window_id)
+        run("xdotool", "key", "--clearmodifiers", keys)
+
+    def visible_windows(self):
+        """Geometry (x, y, width, height) of each visible top-level window of the player."""
+        ids = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "."],
+                             capture_output=True, text=True).stdout.split()
+        windows = {}
+        for window in ids:
+            info = run("xwininfo", "-id", window)
+            fields = dict(re.findall(r"^\s*(Absolute upper-left X|Absolute upper-left Y|Width|Height):\s+(-?\d+)",
+                                     info, re.M))
+            windows[window] = tuple(int(fields[k]) for k in
+                                    ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        return windows
+
+
+class Session:
+    def __init__(self, args):
+        self.args = args
+        self.route = Route(args.route)
+        self.clips = [Clip(n, int(f), int(s)) for n, f, s in (c.split(":") for c in args.clip)]
+        self.out = Path(args.out)
+        self.out.mkdir(parents=True, exist_ok=True)
+        self.step = 0
+        log = open(self.out / "dashtrack.log", "wb")
+        self.process = subprocess.Popen([args.app, *args.open], stdout=log, stderr=subprocess.STDOUT)
+        self.window = None
+
+    def close(self):
+        if self.process.poll() is None:
+            self.process.terminate()
+            try:
+                self.process.wait(10)
+            except subprocess.TimeoutExpired:
+                self.process.kill()
+                self.process.wait()
+
+    def shoot(self, label):
+        self.step += 1
+        path = self.out / f"{self.step:02d}-{label}.png"
+        subprocess.run(["import", "-window", "root", str(path)], check=False, capture_output=True)
+        print(f"e2e: screenshot {path}")
+
+    # What the read-outs say.
+
+    def unit(self):
+        return self.window.text("Speed unit")
+
+    def current_clip(self):
+        title = self.window.text("Title")
+        for clip in self.clips:
+            if clip.name in title:
+                return clip
+        return None
+
+    def sample(self):
+        """One reading: (clip, unit, speed text, playback seconds before, after the reading)."""
+        clip = self.current_clip()
+        before = self.window.position()
+        speed = self.window.text("Speed")
+        after = self.window.position()
+        seconds = clip.seconds if clip else 0
+        return clip, self.unit(), speed, before * seconds, after * seconds
+
+    def check_sample(self, reading):
+        """The speed shown is the route's speed of the second being played, in the unit shown."""
+        clip, unit, speed, t0, t1 = reading
+        if clip is None:
+            raise Failure(f"expected the title to name one of {[c.name for c in self.clips]}; saw "
+                          f"{self.window.text('Title')!r}")
+        if not re.fullmatch(r"\d{2,3}\.\d{2}", speed):
+            raise Failure(f"expected a speed text like 12.34; saw {speed!r}")
+        second = self.route.second_of(clip, speed, unit)
+        if second is None:
+            expected = [f"{self.route.speed(clip.first_second + k, unit):05.2f}" for k in range(1, clip.seconds + 1)]
+            raise Failure(f"expected one of {clip.name}'s speeds in {unit} {expected}; saw {speed!r}")
+        # The read-out changes on the 0.1 s tick after the second begins.
+        if not int(t0) - 1 <= second <= int(t1) + 1:
+            raise Failure(f"expected the speed of second {int(t0)}..{int(t1)} of {clip.name} in {unit}; "
+                          f"saw {speed!r}, the speed of second {second}")
+        return second
+
+    def samples(self, count, interval=0.35):
+        readings = []
+        for _ in range(count):
+            reading = self.sample()
+            self.check_sample(reading)
+            readings.append(reading)
+            time.sleep(interval)
+        return readings
+
+    def paused(self):
+        return self.window.showing("Play") and not self.window.showing("Pause")
+
+    def playing(self):
+        return self.window.showing("Pause") and not self.window.showing("Play")
+
+    def buttons(self):
+        return f"Play {'shown' if self.window.showing('Play') else 'hidden'}, " \
+               f"Pause {'shown' if self.window.showing('Pause') else 'hidden'}"
+
+    # The steps, in the order a user would take them.
+
+    def first_clip_plays(self):
+        oldest = self.clips[0]
+        wait_for(f"the title to name {oldest.name}", lambda: (self.current_clip() == oldest, self.window.text("Title")))
+        wait_for("the Pause button (playing)", lambda: (self.playing(), self.buttons()))
+        wait_for("a speed other than zero",
+                 lambda: ((s := self.window.text("Speed")) not in ("", "00.00"), s))
+        readings = self.samples(10)
+        speeds = {r[2] for r in readings}
+        if len(speeds) < 3:
+            raise Failure(f"expected the speed to change over 3.5 s of playing; saw only {sorted(speeds)}")
+        self.shoot("first-clip-playing")
+        print(f"e2e: first clip plays, speeds seen {sorted(speeds)} {readings[0][1]}")
+
+    def space_pauses_and_plays(self):
+        self.window.key("space")
+        wait_for("the Play button, the Pause button gone (paused)", lambda: (self.paused(), self.buttons()))
+        # Let a tick that was under way land before taking the reference.
+        time.sleep(0.3)
+        still = self.sample()
+        for _ in range(6):
+            time.sleep(0.4)
+            now = self.sample()
+            if now[2] != still[2] or abs(now[4] - still[4]) > 0.05:
+                raise Failure(f"expected the speed and position to stay while paused; saw {still[2]!r} at "
+                              f"{still[4]:.2f} s, then {now[2]!r} at {now[4]:.2f} s")
+        self.shoot("paused")
+        self.window.key("space")
+        wait_for("the Pause button, the Play button gone (playing)", lambda: (self.playing(), self.buttons()))
+        wait_for("the speed to change again after playing on",
+                 lambda: ((s := self.window.text("Speed")) != still[2], s))
+        self.samples(3)
+        print("e2e: Space pauses and plays again")
+
+    def right_steps_ten_seconds(self):
+        clip = self.current_clip()
+        before = self.window.position() * clip.seconds
+        if before + 14 > clip.seconds:
+            raise Failure(f"expected to be early enough in {clip.name} for a 10 s step; at {before:.1f} s")
+        self.window.key("Right")
+        after = wait_for(f"the position to jump forward from {before:.2f} s",
+                         lambda: ((t := self.window.position() * clip.seconds) - before > 5, t))
+        jump = after - before
+        # Playing on between the two readings adds a little.
+        if not 9.0 <= jump <= 12.0:
+            raise Failure(f"expected Right to step 10 s forward from {before:.2f} s; went to {after:.2f} s")
+        # The slider shows the seek's target at once; the read-outs follow when the picture does.
+        wait_for(f"the speed of a second after {int(after)} s",
+                 lambda: ((second := self.route.second_of(clip, self.window.text("Speed"), self.unit())) is not None
+                          and second >= int(after), self.window.text("Speed")))
+        self.samples(4)
+        self.shoot("stepped-ten-seconds")
+        print(f"e2e: Right steps from {before:.1f} s to {after:.1f} s")
+
+    def ctrl_right_loads_next_clip(self):
+        first = self.current_clip()
+        following = self.clips[self.clips.index(first) + 1]
+        self.window.key("ctrl+Right")
+        wait_for(f"the title to name {following.name}",
+                 lambda: (self.current_clip() == following, self.window.text("Title")))
+        wait_for(f"the position to go back near the start of {following.name}",
+                 lambda: ((t := self.window.position() * following.seconds) < 5, f"{t:.2f} s"))
+        # A command from the keyboard plays the clip it loads.
+        wait_for(f"{following.name} playing (the Pause button)", lambda: (self.playing(), self.buttons()))
+        wait_for("a speed other than zero", lambda: ((s := self.window.text("Speed")) not in ("", "00.00"), s))
+        self.samples(3)
+        self.shoot("next-clip")
+        print(f"e2e: Ctrl+Right loads {following.name}")
+
+    def units_menu_changes_the_unit(self):
+        # Paused, the same record is shown before and after: its speed must simply be converted.
+        if not self.paused():
+            self.window.press("Pause")
+            wait_for("paused by the Pause button", lambda: (self.paused(), self.buttons()))
+        if self.window.text("Speed") in ("", "00.00"):
+            # Second 0 shows no record: play on into the movie's first records.
+            self.window.press("Play")
+            wait_for("a speed other than zero", lambda: ((s := self.window.text("Speed")) != "00.00", s))
+            self.window.press("Pause")
+            wait_for("paused by the Pause button", lambda: (self.paused(), self.buttons()))
+        time.sleep(0.3)
+        clip = self.current_clip()
+        start_unit = self.unit()
+        second = self.check_sample(self.sample())
+        for unit in [u for u in ("KM/H", "MPH") if u != start_unit] + [start_unit]:
+            self.window.choose_menu_item(unit)
+            expected = self.route.speed(clip.first_second + second, unit)
+            wait_for(f"the unit {unit} and the speed {expected:05.2f}",
+                     lambda: (self.unit() == unit
+                              and abs(float(self.window.text("Speed")) - expected) <= SPEED_TOLERANCE,
+                              f"{self.unit()} {self.window.text('Speed')}"))
+            self.shoot(f"unit-{unit.replace('/', '')}")
+        print(f"e2e: the Units menu switches {start_unit} and back, speed of second {second} converted")
+        self.window.press("Play")
+        wait_for("playing again by the Play button", lambda: (self.playing(), self.buttons()))
+
+    def full_screen_and_back(self):
+        def full_screen_window():
+            windows = self.window.visible_windows()
+            covering = [w for w, g in windows.items() if g == (0, 0) + SCREEN]
+            return bool(covering), (covering[0] if covering else windows)
+
+        self.window.key("ctrl+f")
+        covering = wait_for(f"a window of the player covering the {SCREEN[0]}x{SCREEN[1]} screen", full_screen_window)
+        time.sleep(0.5)
+        self.shoot("full-screen")
+        self.window.key("Escape", window=covering)
+        wait_for("no window covering the screen and the main window shown",
+                 lambda: (not full_screen_window()[0] and self.window.window_id in self.window.visible_windows(),
+                          self.window.visible_windows()))
+        self.shoot("full-screen-left")
+        print("e2e: Ctrl+F goes full screen, Escape comes back")
+
+    def run(self):
+        self.window = Window(self.process)
+        for step in (self.first_clip_plays, self.space_pauses_and_plays, self.right_steps_ten_seconds,
+                     self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back):
+            try:
+                step()
+            except Failure:
+                self.shoot(f"FAILED-{step.__name__}")
+                raise
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--app", required=True)
+    parser.add_argument("--open", action="append", required=True, help="a folder or movie to open")
+    parser.add_argument("--route", required=True)
+    parser.add_argument("--out", required=True)
+    parser.add_argument("--clip", action="append", required=True, help="NAME:FIRST_SECOND:SECONDS, oldest first")
+    args = parser.parse_args()
+    # ctest's time-out and Ctrl+C end the run through the finally below.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
+    session = Session(args)
+    try:
+        session.run()
+    except Failure as failure:
+        print(f"e2e: FAIL: {failure}", file=sys.stderr)
+        return 1
+    finally:
+        session.close()
+        print(f"e2e: screenshots and the player's output in {session.out}")
+    log = session.out / "dashtrack.log"
+    if log.stat().st_size:
+        print(f"e2e: FAIL: the player printed in a normal run:\n{log.read_text(errors='replace')}", file=sys.stderr)
+        return 1
+    print("e2e: OK")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
