@@ -22,17 +22,12 @@ xvfb_on_exit "rm -rf '$work'"
 xvfb_start 1920x1080x24
 
 mkdir -m 700 "$work/runtime" "$work/home"
-# The playlist sorts by the files' creation (birth) times, which only a new file can set: the clips
-# are copied in their recording order, a second apart, into the folder the player opens. (A copy
-# kept the wrong side of noon would sort first: the order's clock has twelve hours.)
+# The playlist sorts by the files' creation (birth) times, then by name: fresh copies made in one go
+# sort by their camera names. A copy made the wrong side of noon would sort first, since the order's
+# clock has twelve hours, so a copy does not straddle it.
 while [ "$(date +%H%M%S)" -ge 115955 ] && [ "$(date +%H%M%S)" -le 120000 ]; do sleep 1; done
 mkdir "$work/clips"
-first=1
-for clip in "$folder"/*; do
-  [ "$first" ] || sleep 1
-  first=
-  cp -p "$clip" "$work/clips/"
-done
+cp -p "$folder"/* "$work/clips/"
 export XDG_RUNTIME_DIR=$work/runtime HOME=$work/home XDG_CONFIG_HOME=$work/home/.config
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb DASHTRACK_AUDIO_OUTPUT=null
 # The system's Python, which has the accessibility bindings, whatever python is first on PATH.
