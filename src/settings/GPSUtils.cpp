@@ -10,6 +10,7 @@ namespace {
 
 const std::string unitTypeKey = "UnitType";
 const std::string volumeKey = "Volume";
+const std::string mapSourceKey = "MapSource";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -82,3 +83,7 @@ std::vector<std::filesystem::path> GPSUtils::validURLsWithPasteboard(const FileP
     }
     return valid;
 }
+
+std::optional<std::string> GPSUtils::mapSource() const { return settings_.stringValue(mapSourceKey); }
+
+void GPSUtils::setMapSource(const std::string& source) { settings_.setStringValue(mapSourceKey, source); }

@@ -29,6 +29,10 @@ public:
     void setUnitType(uint64_t unitType);
     float volume() const;
     void setVolume(float volume);
+    // Where the map's tiles come from: "osm", "mbtiles:PATH", "folder:PATH" or "offline"; absent
+    // until the user chooses.
+    std::optional<std::string> mapSource() const;
+    void setMapSource(const std::string& source);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

@@ -123,6 +123,19 @@ bool SettingsFile::setRealValue(const std::string& key, double value) {
     return replace(key, PlistNode(plist_new_real(value)));
 }
 
+std::optional<std::string> SettingsFile::stringValue(const std::string& key) const {
+    plist_t node = item(key);
+    if (plist_get_node_type(node) != PLIST_STRING) return std::nullopt;
+    uint64_t length = 0;
+    const char* text = plist_get_string_ptr(node, &length);
+    if (text == nullptr) return std::nullopt;
+    return std::string(text, length);
+}
+
+bool SettingsFile::setStringValue(const std::string& key, const std::string& value) {
+    return replace(key, PlistNode(plist_new_string(value.c_str())));
+}
+
 bool SettingsFile::replace(const std::string& key, PlistNode value) {
     if (!root_ || !value) return false;
     plist_t current = plist_dict_get_item(root_.get(), key.c_str());

@@ -31,12 +31,14 @@ public:
     // unsigned integer is truncated, an integer read as a real is converted.
     std::optional<uint64_t> unsignedValue(const std::string& key) const;
     std::optional<double> realValue(const std::string& key) const;
+    std::optional<std::string> stringValue(const std::string& key) const;
 
     // Only when loaded: replaces the key's value and asks for the whole dictionary to be written
     // to the user's copy. A value equal to the stored one (same type) writes nothing. True when a
     // write was asked; if it fails, the new value stays in memory.
     bool setUnsignedValue(const std::string& key, uint64_t value);
     bool setRealValue(const std::string& key, double value);
+    bool setStringValue(const std::string& key, const std::string& value);
 
     // Waits until every write asked so far is on disk (or has failed); true when the last one
     // succeeded or none was asked.

@@ -91,7 +91,10 @@ TEST_F(SettingsWrites, StoredValuesReachTheFileUnderTheirKeysAndTypes) {
     GPSUtils utils(location());
     utils.setVolume(0.35f);
     utils.setUnitType(1);
+    utils.setMapSource("mbtiles:/maps/île-de-france.mbtiles");
     ASSERT_TRUE(utils.flush());
+    // Read back by a new store, as the next run reads it.
+    EXPECT_EQ(GPSUtils(location()).mapSource(), "mbtiles:/maps/île-de-france.mbtiles");
     const PlistNode root = readPlist(user);
     plist_t volume = plist_dict_get_item(root.get(), "Volume");
     plist_t unit = plist_dict_get_item(root.get(), "UnitType");
