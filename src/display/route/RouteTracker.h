@@ -1,0 +1,33 @@
+#pragma once
+// The route driven so far in the current movie and the car marker, fed one GPS sample at a time.
+
+#include "GPSData.h"
+#include "MapTypes.h"
+#include "RouteMap.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+class RouteTracker {
+public:
+    // Takes the sample reported at index in its track: index 0 clears the route; every third
+    // sample (1, 4, 7, ...) becomes a route point; every sample with a usable position moves the
+    // marker; indexes 1 and 2 zoom to 1000 m around the car, later ones only re-centre.
+    void showCarLocation(const GPSData& sample, int64_t index, RouteMap& map);
+
+    // The route points, in the order they were taken.
+    const std::vector<GPSData>& gpsPositions() const { return positions_; }
+    // The lines on the map, one per continuous stretch of the route, in route order.
+    const std::vector<std::shared_ptr<const Polyline>>& polylineOverlays() const { return overlays_; }
+
+private:
+    void takeRoutePoint(const GPSData& sample, RouteMap& map);
+    void append(const GPSData& sample, double timestamp, RouteMap& map);
+    void cutBackBefore(double timestamp, RouteMap& map);
+    void clearOverlays(RouteMap& map);
+
+    std::vector<GPSData> positions_;
+    std::vector<double> timestamps_;  // of positions_, computed once as each point is taken
+    std::vector<std::shared_ptr<const Polyline>> overlays_;
+};
