@@ -61,19 +61,24 @@ void RouteTracker::takeRoutePoint(const GPSData& sample, RouteMap& map) {
         cutBackBefore(timestamp, map);
 }
 
-// Only the last stretch changes: it is redrawn one point longer, or a new one-point stretch starts.
+// Only the end of the route changes: its last line is redrawn one point longer, or a new line
+// starts (at the last point when the stretch goes on, so the route shows no gap).
 void RouteTracker::append(const GPSData& sample, double timestamp, RouteMap& map) {
-    const bool extendsLast = !timestamps_.empty() && continues(timestamps_.back(), timestamp);
+    const bool joins = !timestamps_.empty() && continues(timestamps_.back(), timestamp);
     positions_.push_back(sample);
     timestamps_.push_back(timestamp);
 
     auto line = std::make_shared<Polyline>();
-    if (extendsLast) {
+    if (joins) {
         const std::shared_ptr<const Polyline> previous = overlays_.back();
-        line->points.reserve(previous->points.size() + 1);
-        line->points = previous->points;
-        map.removeOverlays({previous});
-        overlays_.pop_back();
+        if (previous->points.size() < kMaxLinePoints) {
+            line->points.reserve(previous->points.size() + 1);
+            line->points = previous->points;
+            map.removeOverlays({previous});
+            overlays_.pop_back();
+        } else {
+            line->points.push_back(previous->points.back());
+        }
     }
     line->points.push_back(coordinateOf(sample));
     overlays_.push_back(line);
@@ -94,16 +99,20 @@ void RouteTracker::cutBackBefore(double timestamp, RouteMap& map) {
     positions_.swap(keptPositions);
     timestamps_.swap(keptTimestamps);
 
-    std::shared_ptr<Polyline> line;
+    std::vector<std::shared_ptr<Polyline>> lines;
     for (size_t i = 0; i < positions_.size(); ++i) {
-        if (line && !continues(timestamps_[i - 1], timestamps_[i])) {
-            overlays_.push_back(line);
-            map.addOverlay(std::move(line));
+        const Coordinate point = coordinateOf(positions_[i]);
+        const bool joins = i > 0 && continues(timestamps_[i - 1], timestamps_[i]);
+        if (joins && lines.back()->points.size() < kMaxLinePoints) {
+            lines.back()->points.push_back(point);
+            continue;
         }
-        if (!line) line = std::make_shared<Polyline>();
-        line->points.push_back(coordinateOf(positions_[i]));
+        auto line = std::make_shared<Polyline>();
+        if (joins) line->points.push_back(lines.back()->points.back());
+        line->points.push_back(point);
+        lines.push_back(std::move(line));
     }
-    if (line) {
+    for (auto& line : lines) {
         overlays_.push_back(line);
         map.addOverlay(std::move(line));
     }

@@ -5,12 +5,17 @@
 #include "MapTypes.h"
 #include "RouteMap.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
 
 class RouteTracker {
 public:
+    // A continuous stretch of the route is drawn as lines of at most this many points, each
+    // starting where the one before it ends, so that extending the route costs the same at any length.
+    static constexpr size_t kMaxLinePoints = 64;
+
     // Takes the sample reported at index in its track: index 0 clears the route; every third
     // sample (1, 4, 7, ...) becomes a route point; every sample with a usable position moves the
     // marker; indexes 1 and 2 zoom to 1000 m around the car, later ones only re-centre.
@@ -18,7 +23,8 @@ public:
 
     // The route points, in the order they were taken.
     const std::vector<GPSData>& gpsPositions() const { return positions_; }
-    // The lines on the map, one per continuous stretch of the route, in route order.
+    // The lines on the map, in route order: one per continuous stretch, or consecutive ones that
+    // share their joining point where a stretch is longer than kMaxLinePoints.
     const std::vector<std::shared_ptr<const Polyline>>& polylineOverlays() const { return overlays_; }
 
 private:

@@ -90,9 +90,20 @@ std::vector<int> routeSeconds(const RouteTracker& tracker) {
 
 using Lines = std::vector<std::vector<Coordinate>>;
 
+// The drawn route as continuous stretches: a full line and the one that starts at its last point
+// are one stretch.
 Lines drawnLines(const RouteTracker& tracker) {
-    std::vector<std::vector<Coordinate>> lines;
-    for (const auto& line : tracker.polylineOverlays()) lines.push_back(line->points);
+    Lines lines;
+    bool previousFull = false;
+    for (const auto& line : tracker.polylineOverlays()) {
+        EXPECT_FALSE(line->points.empty());
+        EXPECT_LE(line->points.size(), RouteTracker::kMaxLinePoints);
+        if (previousFull && line->points.front() == lines.back().back())
+            lines.back().insert(lines.back().end(), line->points.begin() + 1, line->points.end());
+        else
+            lines.push_back(line->points);
+        previousFull = line->points.size() == RouteTracker::kMaxLinePoints;
+    }
     return lines;
 }
 
@@ -167,6 +178,23 @@ TEST_F(RouteTrackerTest, SeekBackCutsTheRouteAtTheNextRoutePoint) {
     EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 10}));
     EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 10})}));  // 6 s apart: one line
     expectMapShowsTheRoute();
+}
+
+TEST_F(RouteTrackerTest, LongStretchIsDrawnAsJoinedLines) {
+    auto expectOneStretch = [&](size_t routePoints) {
+        std::vector<Coordinate> route;
+        for (const GPSData& point : tracker.gpsPositions()) route.push_back(coordinateOf(point));
+        EXPECT_EQ(route.size(), routePoints);
+        EXPECT_EQ(drawnLines(tracker), Lines{route});
+        expectMapShowsTheRoute();
+    };
+    play(0, 3 * 199 + 1);
+    EXPECT_EQ(tracker.polylineOverlays().size(), 4u);  // 64 + 63 + 63 + 10 points
+    expectOneStretch(200);
+    play(301, 301);  // back into the third line: 1 to 298 stay
+    expectOneStretch(100);
+    play(302, 500);  // 304 to 499 follow
+    expectOneStretch(166);
 }
 
 TEST_F(RouteTrackerTest, CutBackBeforeEveryPointEmptiesTheRoute) {
