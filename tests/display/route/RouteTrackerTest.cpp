@@ -1,0 +1,319 @@
+#include "RouteTracker.h"
+#include "TimeZoneGuard.h"
+
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <set>
+
+namespace {
+
+// A map that keeps what is on it and counts how it was framed.
+class RecordingMap : public RouteMap {
+public:
+    void removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& overlays) override {
+        for (const auto& line : overlays) onMap.erase(line);
+    }
+    void addOverlay(std::shared_ptr<const Polyline> overlay) override {
+        EXPECT_TRUE(onMap.insert(overlay).second) << "a line added twice";
+    }
+    void moveMarker(Coordinate coordinate, const std::string& title) override {
+        marker = coordinate;
+        markerTitle = title;
+        ++markerMoves;
+    }
+    void setRegion(CoordinateRegion region, bool animated) override {
+        lastRegion = region;
+        EXPECT_TRUE(animated);
+        ++regionCalls;
+    }
+    void setCenterCoordinate(Coordinate coordinate) override {
+        center = coordinate;
+        ++centerCalls;
+    }
+    void logIntake(const std::string& newText, const std::string& lastText) override {
+        log.push_back("new = " + newText + ", last = " + lastText);
+    }
+
+    std::set<std::shared_ptr<const Polyline>> onMap;
+    std::optional<Coordinate> marker;
+    std::string markerTitle;
+    int markerMoves = 0;
+    std::optional<CoordinateRegion> lastRegion;
+    int regionCalls = 0;
+    std::optional<Coordinate> center;
+    int centerCalls = 0;
+    std::vector<std::string> log;
+};
+
+// A raw record in the cameras' fixed-point form recorded `second` seconds after 2023-05-07 10:00:00.
+GPSDATA recordAt(int second, double latitude, double longitude) {
+    GPSDATA raw;
+    raw.rmcinfo.Year = 2023;
+    raw.rmcinfo.Month = 5;
+    raw.rmcinfo.Day = 7;
+    raw.rmcinfo.Hour = 10 + uint32_t(second / 3600);
+    raw.rmcinfo.Minute = uint32_t(second / 60 % 60);
+    raw.rmcinfo.Second = uint32_t(second % 60);
+    raw.rmcinfo.Latitude = std::bit_cast<float>(int32_t(std::lround(latitude * 1e7)));
+    raw.rmcinfo.Longitude = std::bit_cast<float>(int32_t(std::lround(longitude * 1e7)));
+    return raw;
+}
+
+GPSData sampleOf(const GPSDATA& raw) {
+    GPSData sample;
+    sample.SetData(raw, false);
+    return sample;
+}
+
+GPSData sampleAt(int second, double latitude, double longitude) {
+    return sampleOf(recordAt(second, latitude, longitude));
+}
+
+// By default a little further north with every second.
+GPSData sampleAt(int second) { return sampleAt(second, 48.1 + second * 1e-4, 11.5); }
+
+Coordinate coordinateOf(const GPSData& s) { return {double(s.Latitude()), double(s.Longitude())}; }
+
+int secondOf(const GPSData& s) {
+    const RMCINFO& f = s.data().rmcinfo;
+    return int(f.Hour - 10) * 3600 + int(f.Minute) * 60 + int(f.Second);
+}
+
+std::vector<int> routeSeconds(const RouteTracker& tracker) {
+    std::vector<int> seconds;
+    for (const GPSData& s : tracker.gpsPositions()) seconds.push_back(secondOf(s));
+    return seconds;
+}
+
+using Lines = std::vector<std::vector<Coordinate>>;
+
+// The drawn route as continuous stretches: a full line and the one that starts at its last point
+// are one stretch.
+Lines drawnLines(const RouteTracker& tracker) {
+    Lines lines;
+    bool previousFull = false;
+    for (const auto& line : tracker.polylineOverlays()) {
+        EXPECT_FALSE(line->points.empty());
+        EXPECT_LE(line->points.size(), RouteTracker::kMaxLinePoints);
+        if (previousFull && line->points.front() == lines.back().back())
+            lines.back().insert(lines.back().end(), line->points.begin() + 1, line->points.end());
+        else
+            lines.push_back(line->points);
+        previousFull = line->points.size() == RouteTracker::kMaxLinePoints;
+    }
+    return lines;
+}
+
+std::vector<Coordinate> coordinatesAt(std::initializer_list<int> seconds) {
+    std::vector<Coordinate> points;
+    for (int s : seconds) points.push_back(coordinateOf(sampleAt(s)));
+    return points;
+}
+
+class RouteTrackerTest : public testing::Test {
+protected:
+    // Reports indexes first..last in order, index i recorded i seconds after the start.
+    void play(int64_t first, int64_t last) {
+        for (int64_t i = first; i <= last; ++i) tracker.showCarLocation(sampleAt(int(i)), i, map);
+    }
+    void expectMapShowsTheRoute() {
+        const auto& lines = tracker.polylineOverlays();
+        EXPECT_EQ(map.onMap, std::set<std::shared_ptr<const Polyline>>(lines.begin(), lines.end()));
+    }
+
+    TimeZoneGuard utc{"UTC0"};
+    RecordingMap map;
+    RouteTracker tracker;
+};
+
+TEST_F(RouteTrackerTest, NormalPlaybackTakesEveryThirdSampleAsOneLine) {
+    play(0, 10);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 7, 10}));
+    EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 7, 10})}));
+    expectMapShowsTheRoute();
+
+    EXPECT_EQ(map.regionCalls, 2);  // indexes 1 and 2 zoom
+    EXPECT_EQ(map.lastRegion->center, coordinateOf(sampleAt(2)));
+    EXPECT_NEAR(map.lastRegion->span.latitudeDelta, 1000.0 / 111200, 1e-4);
+    EXPECT_EQ(map.centerCalls, 8);  // 3 to 10 only re-centre
+    EXPECT_EQ(map.center, coordinateOf(sampleAt(10)));
+    EXPECT_EQ(map.markerMoves, 10);
+    EXPECT_EQ(map.marker, coordinateOf(sampleAt(10)));
+    EXPECT_EQ(map.markerTitle, "Car");
+
+    EXPECT_EQ(map.log, (std::vector<std::string>{
+                           "new = 2023-05-07 10:00:04 AM, last = 2023-05-07 10:00:01 AM",
+                           "new = 2023-05-07 10:00:07 AM, last = 2023-05-07 10:00:04 AM",
+                           "new = 2023-05-07 10:00:10 AM, last = 2023-05-07 10:00:07 AM",
+                       }));
+}
+
+TEST_F(RouteTrackerTest, SeekForwardPastTheGapStartsAOnePointLine) {
+    play(0, 10);
+    const auto firstLine = tracker.polylineOverlays().front();
+    play(40, 40);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 7, 10, 40}));
+    EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 7, 10}), coordinatesAt({40})}));
+    EXPECT_EQ(tracker.polylineOverlays().front(), firstLine) << "an unchanged line was redrawn";
+    expectMapShowsTheRoute();
+    EXPECT_EQ(map.center, coordinateOf(sampleAt(40)));
+}
+
+TEST_F(RouteTrackerTest, SeekBackCutsTheRouteAtTheNextRoutePoint) {
+    play(0, 10);
+    play(5, 6);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 7, 10})) << "only a route point cuts";
+    EXPECT_EQ(map.marker, coordinateOf(sampleAt(6)));
+
+    play(7, 7);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4}));
+    EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4})}));
+    expectMapShowsTheRoute();
+    EXPECT_EQ(map.marker, coordinateOf(sampleAt(7)));
+
+    play(8, 10);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 10}));
+    EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 10})}));  // 6 s apart: one line
+    expectMapShowsTheRoute();
+}
+
+TEST_F(RouteTrackerTest, LongStretchIsDrawnAsJoinedLines) {
+    auto expectOneStretch = [&](size_t routePoints) {
+        std::vector<Coordinate> route;
+        for (const GPSData& point : tracker.gpsPositions()) route.push_back(coordinateOf(point));
+        EXPECT_EQ(route.size(), routePoints);
+        EXPECT_EQ(drawnLines(tracker), Lines{route});
+        expectMapShowsTheRoute();
+    };
+    play(0, 3 * 199 + 1);
+    EXPECT_EQ(tracker.polylineOverlays().size(), 4u);  // 64 + 63 + 63 + 10 points
+    expectOneStretch(200);
+    play(301, 301);  // back into the third line: 1 to 298 stay
+    expectOneStretch(100);
+    play(302, 500);  // 304 to 499 follow
+    expectOneStretch(166);
+}
+
+TEST_F(RouteTrackerTest, CutBackBeforeEveryPointEmptiesTheRoute) {
+    play(0, 7);
+    tracker.showCarLocation(sampleAt(1), 10, map);  // equal to the first point: not strictly before
+    EXPECT_TRUE(tracker.gpsPositions().empty());
+    EXPECT_TRUE(map.onMap.empty());
+    tracker.showCarLocation(sampleAt(2), 13, map);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{2}));
+    expectMapShowsTheRoute();
+    EXPECT_EQ(map.log.size(), 3u) << "an intake into an empty route logs nothing";
+}
+
+struct GapCase {
+    const char* name;
+    std::vector<int> seconds;  // of route points taken at 1, 4, 7, ...
+    std::vector<std::vector<int>> lines;
+};
+
+void PrintTo(const GapCase& c, std::ostream* out) { *out << c.name; }
+
+class RouteGapTest : public RouteTrackerTest, public testing::WithParamInterface<GapCase> {};
+
+TEST_P(RouteGapTest, SplitsWhereRecordingTimeJumps) {
+    const GapCase& c = GetParam();
+    int64_t index = 1;
+    for (int second : c.seconds) {
+        tracker.showCarLocation(sampleAt(second), index, map);
+        index += 3;
+    }
+    std::vector<std::vector<Coordinate>> expected;
+    for (const auto& line : c.lines) {
+        expected.emplace_back();
+        for (int s : line) expected.back().push_back(coordinateOf(sampleAt(s)));
+    }
+    EXPECT_EQ(drawnLines(tracker), expected);
+    expectMapShowsTheRoute();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Gaps, RouteGapTest,
+    testing::Values(GapCase{"EightSecondsJoin", {0, 8, 16}, {{0, 8, 16}}},
+                    GapCase{"NineSecondsSplit", {0, 9, 17}, {{0}, {9, 17}}},
+                    GapCase{"EqualTimesAppend", {5, 5, 5}, {{5, 5, 5}}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(RouteTrackerTest, UnreadableDatesNeverCutOrSplit) {
+    // Month 13: every timestamp is 0, so a later sample reported earlier is still appended.
+    auto undated = [](int second) {
+        GPSDATA raw = recordAt(second, 48.1, 11.5);
+        raw.rmcinfo.Month = 13;
+        return sampleOf(raw);
+    };
+    tracker.showCarLocation(undated(100), 1, map);
+    tracker.showCarLocation(undated(0), 4, map);
+    tracker.showCarLocation(undated(50), 7, map);
+    EXPECT_EQ(tracker.gpsPositions().size(), 3u);
+    EXPECT_EQ(tracker.polylineOverlays().size(), 1u);
+}
+
+TEST_F(RouteTrackerTest, IndexZeroClearsTheRouteButLeavesMarkerAndFraming) {
+    play(0, 10);
+    const int moves = map.markerMoves, regions = map.regionCalls, centres = map.centerCalls;
+    tracker.showCarLocation(sampleAt(500, 10.0, 10.0), 0, map);
+    EXPECT_TRUE(tracker.gpsPositions().empty());
+    EXPECT_TRUE(tracker.polylineOverlays().empty());
+    EXPECT_TRUE(map.onMap.empty());
+    EXPECT_EQ(map.markerMoves, moves);
+    EXPECT_EQ(map.marker, coordinateOf(sampleAt(10)));
+    EXPECT_EQ(map.regionCalls, regions);
+    EXPECT_EQ(map.centerCalls, centres);
+
+    play(1, 2);  // a new movie zooms again
+    EXPECT_EQ(map.regionCalls, regions + 2);
+    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1}));
+}
+
+TEST_F(RouteTrackerTest, NaNPositionChangesNothing) {
+    GPSDATA raw;  // the scaled form keeps a float latitude as it is
+    raw.rmcinfo.Year = 23, raw.rmcinfo.Month = 5, raw.rmcinfo.Day = 7;
+    raw.rmcinfo.Latitude = std::numeric_limits<float>::quiet_NaN();
+    raw.rmcinfo.Longitude = 600.0f;
+    GPSData sample;
+    sample.SetData(raw, false);
+    ASSERT_TRUE(std::isnan(sample.Latitude()));
+
+    tracker.showCarLocation(sample, 1, map);
+    EXPECT_TRUE(tracker.gpsPositions().empty());
+    EXPECT_FALSE(map.marker.has_value());
+    EXPECT_EQ(map.regionCalls, 0);
+    EXPECT_EQ(map.centerCalls, 0);
+    EXPECT_TRUE(map.onMap.empty());
+}
+
+TEST_F(RouteTrackerTest, ZeroZeroIsAnOrdinaryPosition) {
+    tracker.showCarLocation(sampleAt(1, 0.0, 0.0), 1, map);
+    EXPECT_EQ(map.marker, (Coordinate{0, 0}));
+    EXPECT_EQ(map.lastRegion->center, (Coordinate{0, 0}));
+    EXPECT_EQ(drawnLines(tracker), (Lines{{Coordinate{0, 0}}}));
+}
+
+// The route after any sequence of reports equals the one recomputed from scratch, split into
+// stretches of at most 8 s, and the map shows exactly its lines.
+TEST_F(RouteTrackerTest, IncrementalDrawingMatchesAFullRedraw) {
+    // Forward playback with jumps both ways, as a user scrubbing would report.
+    const std::vector<std::pair<int64_t, int64_t>> stretches = {
+        {0, 30}, {60, 75}, {20, 28}, {29, 50}, {100, 130}, {110, 115}, {5, 9}, {0, 4}, {2, 40}};
+    for (const auto& [first, last] : stretches) {
+        play(first, last);
+        std::vector<std::vector<Coordinate>> expected;
+        const auto& points = tracker.gpsPositions();
+        for (size_t i = 0; i < points.size(); ++i) {
+            if (i == 0 || std::abs(secondOf(points[i]) - secondOf(points[i - 1])) > 8) expected.emplace_back();
+            expected.back().push_back(coordinateOf(points[i]));
+        }
+        ASSERT_EQ(drawnLines(tracker), expected) << "after " << first << ".." << last;
+        expectMapShowsTheRoute();
+        for (size_t i = 1; i < points.size(); ++i) EXPECT_LE(secondOf(points[i - 1]), secondOf(points[i]));
+    }
+}
+
+}  // namespace
