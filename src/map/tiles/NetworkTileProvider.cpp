@@ -67,6 +67,7 @@ void NetworkTileProvider::finished(QNetworkReply* reply, const TileId& id) {
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (status >= 400 && status < 500) {
         missing_.insert(id);
+        emit tileUnavailable(id, true);
         return;
     }
     QImage image;
@@ -78,6 +79,7 @@ void NetworkTileProvider::finished(QNetworkReply* reply, const TileId& id) {
     if (image.isNull()) {
         // Timed out, refused, a server error or bytes that are no image: try again later.
         retryAfter_[id] = QDeadlineTimer(retryDelayMs_);
+        emit tileUnavailable(id, false);
         return;
     }
     memory_.insert(id, image);

@@ -42,6 +42,10 @@ public:
     void setRetryDelay(int milliseconds) { retryDelayMs_ = milliseconds; }
     const TileMemoryCache& memoryCache() const { return memory_; }
 
+signals:
+    // The tile did not come: permanently (the server said it is not there) or for now.
+    void tileUnavailable(TileId id, bool permanently);
+
 private:
     void request(const TileId& id);
     void finished(QNetworkReply* reply, const TileId& id);
