@@ -1,18 +1,21 @@
 #pragma once
-// A tile server for tests on 127.0.0.1: serves a generated PNG for every /z/x/y.png, with a cache
-// lifetime of an hour, except paths set to answer with another status. It records each request.
+// What the tile tests share: PNG tiles of one colour, waiting for a tile as a map view would, and a
+// tile server on 127.0.0.1 that serves a PNG for every /z/x/y.png (cacheable for an hour) unless
+// told to answer a path with another status, and records the requests it gets.
 
-#include "TileId.h"
+#include "TileProvider.h"
 
 #include <QColor>
-#include <QImage>
 #include <QMap>
-#include <QObject>
 #include <QTcpServer>
 
 #include <vector>
 
-class QTcpSocket;
+QByteArray pngOf(const QColor& color);
+// A colour that differs between neighbouring tiles.
+QColor colorOf(const TileId& id);
+// Asks for the tile on every tileReady until it is there; null if none comes.
+QImage fetchTile(TileProvider& provider, const TileId& id);
 
 class TestTileServer : public QObject {
     Q_OBJECT
@@ -24,18 +27,13 @@ public:
     };
 
     TestTileServer();
-
-    // http://127.0.0.1:<port>/{z}/{x}/{y}.png
     QString urlTemplate() const;
     void answerWith(const TileId& id, int status) { statuses_[pathOf(id)] = status; }
     int requestCount(const TileId& id) const;
     const std::vector<Request>& requests() const { return requests_; }
 
-    // The colour of the generated tile, different for neighbouring tiles.
-    static QColor colorOf(const TileId& id);
-    static QString pathOf(const TileId& id);
-
 private:
+    static QString pathOf(const TileId& id);
     void serve(QTcpSocket* socket);
 
     QTcpServer server_;
