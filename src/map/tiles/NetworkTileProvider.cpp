@@ -20,6 +20,14 @@ NetworkTileProvider::NetworkTileProvider(TileSource source, QString cacheDirecto
     network_.setCache(diskCache);
 }
 
+NetworkTileProvider::~NetworkTileProvider() {
+    // Replies still under way are aborted as the manager goes; by then this provider's sets are
+    // gone, so they must not report back.
+    for (QNetworkReply* reply : network_.findChildren<QNetworkReply*>()) {
+        reply->disconnect(this);
+    }
+}
+
 QString NetworkTileProvider::defaultCacheDirectory() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
            QStringLiteral("/dashtrack/tiles");

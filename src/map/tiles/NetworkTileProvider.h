@@ -26,6 +26,7 @@ public:
 
     // cacheDirectory: where the HTTP disk cache lives; empty for defaultCacheDirectory().
     explicit NetworkTileProvider(TileSource source, QString cacheDirectory = {}, QObject* parent = nullptr);
+    ~NetworkTileProvider() override;
 
     QImage tile(const TileId& id) override;
     int minimumZoom() const override { return source_.minZoom; }

@@ -80,6 +80,10 @@ TEST_F(NetworkTileProviderTest, ASecondProviderGetsTheTileFromTheDiskCache) {
     EXPECT_TRUE(NetworkTileProvider::defaultCacheDirectory().startsWith(qEnvironmentVariable("XDG_CACHE_HOME")));
     EXPECT_TRUE(QDir(NetworkTileProvider::defaultCacheDirectory()).exists());
 
+    {
+        NetworkTileProvider leaving(source());  // goes with a request under way
+        EXPECT_TRUE(leaving.tile(TileId{9, 1, 1}).isNull());
+    }
     NetworkTileProvider second(source());
     EXPECT_EQ(fetchTile(second, id).pixelColor(0, 0), colorOf(id));
     EXPECT_EQ(server.requestCount(id), 1);
