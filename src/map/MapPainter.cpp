@@ -107,30 +107,72 @@ void MapPainter::paintTiles(QPainter& painter, TileProvider& provider, RecentTil
     painter.restore();
 }
 
+namespace {
+
+// Long antialiased wide polylines are costly to stroke as one path (the overlaps are resolved
+// across the whole of it), so a line is drawn in short pieces, which cover the same pixels.
+constexpr int kPointsPerPiece = 16;
+
+void drawPieces(QPainter& painter, const QPolygonF& points) {
+    if (points.size() == 1) {
+        painter.drawPoint(points.front());
+        return;
+    }
+    for (qsizetype start = 0; start + 1 < points.size(); start += kPointsPerPiece)
+        painter.drawPolyline(points.constData() + start,
+                             int(std::min<qsizetype>(kPointsPerPiece + 1, points.size() - start)));
+}
+
+}  // namespace
+
 void MapPainter::paintOverlays(QPainter& painter, const std::vector<StyledOverlay>& overlays) const {
     const double world = MapMath::worldSize(zoom_, tileSize_);
     const double dx = size_.width() / 2 - centerWorld_.x;
     const double dy = size_.height() / 2 - centerWorld_.y;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, true);
-    QPolygonF polygon;
+    QPolygonF run;
     for (const StyledOverlay& overlay : overlays) {
         if (overlay.unitPoints.empty()) continue;
-        polygon.clear();
-        polygon.reserve(qsizetype(overlay.unitPoints.size()));
-        QPointF last(INFINITY, INFINITY);
-        for (const MapMath::WorldPoint& u : overlay.unitPoints) {
-            const QPointF p(u.x * world + dx, u.y * world + dy);
-            // Points closer than a quarter pixel add work and nothing visible.
-            if (std::abs(p.x() - last.x()) < 0.25 && std::abs(p.y() - last.y()) < 0.25) continue;
-            polygon.append(p);
-            last = p;
-        }
         painter.setPen(QPen(overlay.style.color, overlay.style.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        if (polygon.size() == 1)
-            painter.drawPoint(polygon.front());
-        else
-            painter.drawPolyline(polygon);
+        const double margin = overlay.style.lineWidth + 2;
+        const QRectF visible = QRectF(QPointF(0, 0), size_).adjusted(-margin, -margin, margin, margin);
+        const auto at = [&](const MapMath::WorldPoint& u) { return QPointF(u.x * world + dx, u.y * world + dy); };
+
+        // Runs of segments that touch the frame; the rest of the line is not stroked at all.
+        run.clear();
+        QPointF previous = at(overlay.unitPoints.front());
+        QPointF lastDrawn = previous;
+        if (overlay.unitPoints.size() == 1 && visible.contains(previous)) run.append(previous);
+        for (std::size_t i = 1; i < overlay.unitPoints.size(); ++i) {
+            const QPointF p = at(overlay.unitPoints[i]);
+            // By bounding boxes, which are never empty here (a level segment has no height).
+            const bool onScreen = std::max(previous.x(), p.x()) >= visible.left() &&
+                                  std::min(previous.x(), p.x()) <= visible.right() &&
+                                  std::max(previous.y(), p.y()) >= visible.top() &&
+                                  std::min(previous.y(), p.y()) <= visible.bottom();
+            if (!onScreen) {
+                if (!run.isEmpty()) {
+                    if (run.back() != previous) run.append(previous);
+                    drawPieces(painter, run);
+                    run.clear();
+                }
+                previous = p;
+                continue;
+            }
+            if (run.isEmpty()) {
+                run.append(previous);
+                lastDrawn = previous;
+            }
+            // Points within half a pixel of the last one drawn add work and nothing visible.
+            const bool last = i + 1 == overlay.unitPoints.size();
+            if (last || std::abs(p.x() - lastDrawn.x()) >= 0.5 || std::abs(p.y() - lastDrawn.y()) >= 0.5) {
+                run.append(p);
+                lastDrawn = p;
+            }
+            previous = p;
+        }
+        if (!run.isEmpty()) drawPieces(painter, run);
     }
     painter.restore();
 }

@@ -184,6 +184,7 @@ void MapView::stopAnimation() {
 }
 
 void MapView::zoomAbout(QPointF widgetPoint, double steps, bool animated) {
+    pendingRegion_.reset();  // the user's zoom replaces a region still waiting for a size
     const double targetZoom = MapMath::clampZoom(
         (animation_->state() == QAbstractAnimation::Running ? animationEndZoom_ : zoom_) + steps, minimumZoom(),
         maximumZoom());
@@ -345,6 +346,7 @@ void MapView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return QWidget::mousePressEvent(event);
     stopAnimation();
     callout_->hide();
+    pendingRegion_.reset();
     dragOrigin_ = event->position();
     dragStartCenter_ = center_;
     setCursor(Qt::ClosedHandCursor);
