@@ -60,7 +60,11 @@ void MapPainter::paintGrid(QPainter& painter) const {
 }
 
 void MapPainter::paintTiles(QPainter& painter, TileProvider& provider, RecentTiles& recent) const {
-    const double dpr = painter.device() ? painter.device()->devicePixelRatioF() : 1.0;
+    // Device pixels per map pixel: the screen's ratio, or that of the image a widget is rendered
+    // into (which shows only in the painter's transform).
+    const QTransform& transform = painter.deviceTransform();
+    const double dpr = std::max(painter.device() ? painter.device()->devicePixelRatioF() : 1.0,
+                                std::hypot(transform.m11(), transform.m12()));
     const int z = tileZoom(dpr, provider.minimumZoom(), provider.maximumZoom());
     const int tileSize = std::max(provider.tileSize(), 1);
     const double scale = std::exp2(zoom_ - z) * tileSize_ / tileSize;  // logical pixels per tile pixel

@@ -340,3 +340,42 @@ TEST(MapView, ForgetsAProviderThatIsDestroyed) {
     EXPECT_EQ(view.tileProvider(), nullptr);
     EXPECT_NE(paint(view).pixelColor(100, 100), QColor(Qt::green));
 }
+
+TEST_F(MapViewTest, DrawsTheStretchesOfALineThatCrossTheFrame) {
+    RedLines delegate;
+    view.setDelegate(&delegate);
+    view.setRegion(regionAtZoom({0, 0}, 10), false);
+    const MapPainter frame(view.centerCoordinate(), view.zoomLevel(), view.size(), 256);
+    const auto inFrame = [&](QPointF p) { return frame.toCoordinate(p); };
+    struct Case {
+        const char* name;
+        std::vector<QPointF> points;  // in widget pixels
+        QPoint red;
+    };
+    const Case cases[] = {
+        {"level, both ends outside", {{-500, 100}, {900, 100}}, {200, 100}},
+        {"upright, both ends outside", {{150, -400}, {150, 700}}, {150, 150}},
+        {"diagonal through", {{-100, -100}, {500, 400}}, {200, 150}},
+        {"out and back in", {{100, 50}, {100, -900}, {2000, -900}, {300, 50}, {300, 250}}, {300, 200}},
+        {"last point alone on screen", {{-900, 200}, {-800, 200}, {250, 200}}, {200, 200}},
+    };
+    for (const Case& c : cases) {
+        std::vector<Coordinate> points;
+        for (QPointF p : c.points) points.push_back(inFrame(p));
+        const auto l = line(points);
+        view.addOverlay(l);
+        EXPECT_TRUE(isRed(paint(view).pixelColor(c.red))) << c.name;
+        view.removeOverlays({l});
+    }
+}
+
+TEST_F(MapViewTest, UsesFinerTilesOnADenseScreen) {
+    view.setRegion(regionAtZoom({0, 0}, 2), false);
+    QImage image(800, 600, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(2);
+    view.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+    ASSERT_FALSE(provider.requested.empty());
+    for (const TileId& id : provider.requested) EXPECT_EQ(id.z, 3);
+    // Twice the tiles along each side: columns 2-5 and rows 2-5 at zoom 3.
+    EXPECT_EQ(provider.requested.size(), 16u);
+}
