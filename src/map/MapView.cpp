@@ -276,6 +276,10 @@ void MapView::placeAnnotations() {
     const MapPainter frame = framePainter();
     for (const ShownAnnotation& shown : annotations_) {
         if (!shown.view) continue;
+        // A marker without a place is not shown anywhere rather than in a corner.
+        const bool placed = isUsable(shown.annotation->coordinate);
+        shown.view->setVisible(placed);
+        if (!placed) continue;
         const QPointF at = frame.toWidget(shown.annotation->coordinate);
         const QSize size = shown.view->size();
         shown.view->move(QPoint(int(std::lround(at.x() - size.width() / 2.0)), int(std::lround(at.y() - size.height() / 2.0))));

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolButton>
+#include <QVariantAnimation>
 
 #include <gtest/gtest.h>
 
@@ -378,4 +379,52 @@ TEST_F(MapViewTest, UsesFinerTilesOnADenseScreen) {
     for (const TileId& id : provider.requested) EXPECT_EQ(id.z, 3);
     // Twice the tiles along each side: columns 2-5 and rows 2-5 at zoom 3.
     EXPECT_EQ(provider.requested.size(), 16u);
+}
+
+TEST_F(MapViewTest, AnAnimatedRegionEasesToItsEnd) {
+    view.setAttribute(Qt::WA_DontShowOnScreen);
+    view.show();
+    view.setRegion(regionAtZoom({0, 0}, 4), false);
+    const CoordinateRegion target = regionMakeWithDistance({48.8566, 2.3522}, 1000, 1000);
+    view.setRegion(target, true);
+    // Nothing jumps: the glide starts where the map is.
+    EXPECT_NEAR(view.zoomLevel(), 4, 1e-9);
+    auto* animation = view.findChild<QVariantAnimation*>();
+    ASSERT_NE(animation, nullptr);
+    ASSERT_EQ(animation->state(), QAbstractAnimation::Running);
+    animation->setCurrentTime(animation->duration() / 2);
+    EXPECT_GT(view.zoomLevel(), 4.5);
+    EXPECT_GT(view.centerCoordinate().latitude, 1);
+
+    // The car moves on while the map zooms: the zoom goes on and ends over the car.
+    view.setCenterCoordinate({48.86, 2.36});
+    animation->setCurrentTime(animation->duration());
+    EXPECT_NEAR(view.zoomLevel(), MapMath::zoomToFit(target, 400, 300, 256), 1e-9);
+    EXPECT_NEAR(view.centerCoordinate().latitude, 48.86, 1e-9);
+    EXPECT_NEAR(view.centerCoordinate().longitude, 2.36, 1e-9);
+    EXPECT_EQ(animation->state(), QAbstractAnimation::Stopped);
+}
+
+TEST_F(MapViewTest, PointsWithoutAPlaceAreLeftOut) {
+    RedLines delegate;
+    view.setDelegate(&delegate);
+    view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
+    view.addOverlay(line({{-0.003, 0}, {NAN, 0}, {0.003, 0}}));
+    view.addOverlay(line({{NAN, NAN}}));
+    view.addOverlay(line({}));
+    EXPECT_TRUE(isRed(paint(view).pixelColor(200, 150)));
+
+    auto lost = std::make_shared<MapAnnotation>(MapAnnotation{{NAN, 1}, QStringLiteral("Car")});
+    view.addAnnotation(lost);
+    ASSERT_NE(view.viewForAnnotation(lost), nullptr);
+    EXPECT_TRUE(view.viewForAnnotation(lost)->isHidden());
+    lost->coordinate = {0, 0};
+    view.setCenterCoordinate({0, 0});
+    EXPECT_FALSE(view.viewForAnnotation(lost)->isHidden());
+
+    view.setRegion({{NAN, 0}, {1, 1}}, false);
+    view.setRegion({{0, 0}, {NAN, INFINITY}}, false);
+    EXPECT_EQ(view.centerCoordinate(), (Coordinate{0, 0}));
+    EXPECT_GE(view.zoomLevel(), 0);
+    EXPECT_LE(view.zoomLevel(), 19);
 }
