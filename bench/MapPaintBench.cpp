@@ -88,8 +88,9 @@ CoordinateRegion bounds(const Polyline& line) {
 }
 
 enum class Framing { FollowCar, WholeRoute, Tangle, TangleWholeZoom, TilesOnly };
+enum class Motion { Still, Zooming, Driving };
 
-void paintFrames(benchmark::State& state, Framing framing) {
+void paintFrames(benchmark::State& state, Framing framing, Motion motion) {
     MemoryTileProvider provider;
     RouteStyle style;
     MapView view;
@@ -109,7 +110,13 @@ void paintFrames(benchmark::State& state, Framing framing) {
     if (framing != Framing::TilesOnly) view.addOverlay(route);
     QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
     view.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);  // tiles made, not timed
+    std::size_t step = 0;
     for (auto _ : state) {
+        ++step;
+        if (motion == Motion::Zooming)  // every frame at a new zoom, as while the zoom glides
+            view.zoomAbout(QPointF(200, 150), step % 2 ? 0.01 : -0.01, false);
+        else if (motion == Motion::Driving)  // the car a second further on, three points apart
+            view.setCenterCoordinate(route->points[(route->points.size() - 1 - step / 3 % 100)]);
         view.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
         benchmark::DoNotOptimize(image.constBits());
     }
@@ -118,15 +125,19 @@ void paintFrames(benchmark::State& state, Framing framing) {
 
 }  // namespace
 
-// 1000 m around the car, as the map is framed during playback.
-BENCHMARK_CAPTURE(paintFrames, follow_car, Framing::FollowCar)->Unit(benchmark::kMillisecond);
+// 1000 m around the car, as the map is framed during playback; still, following the car, zooming.
+BENCHMARK_CAPTURE(paintFrames, follow_car, Framing::FollowCar, Motion::Still)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, follow_car_driving, Framing::FollowCar, Motion::Driving)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, follow_car_zooming, Framing::FollowCar, Motion::Zooming)->Unit(benchmark::kMillisecond);
 // The whole drive fitted into the view.
-BENCHMARK_CAPTURE(paintFrames, whole_route, Framing::WholeRoute)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, whole_route, Framing::WholeRoute, Motion::Still)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, whole_route_zooming, Framing::WholeRoute, Motion::Zooming)->Unit(benchmark::kMillisecond);
 // The worst case: 2,400 points within 300x240 pixels, at a fractional and at a whole zoom.
-BENCHMARK_CAPTURE(paintFrames, tangle, Framing::Tangle)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(paintFrames, tangle_whole_zoom, Framing::TangleWholeZoom)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, tangle, Framing::Tangle, Motion::Still)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, tangle_whole_zoom, Framing::TangleWholeZoom, Motion::Still)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, tangle_zooming, Framing::Tangle, Motion::Zooming)->Unit(benchmark::kMillisecond);
 // The tiles, grid, scale bar and attribution of the tangle's frame without its route.
-BENCHMARK_CAPTURE(paintFrames, tiles_only, Framing::TilesOnly)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, tiles_only, Framing::TilesOnly, Motion::Still)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);

@@ -37,6 +37,18 @@ Coordinate MapPainter::toCoordinate(QPointF widgetPoint) const {
                               zoom_, tileSize_);
 }
 
+QPointF MapPainter::topLeftWorld() const {
+    return {centerWorld_.x - size_.width() / 2, centerWorld_.y - size_.height() / 2};
+}
+
+double MapPainter::devicePixelRatio(const QPainter& painter) {
+    // The screen's ratio, or that of the image a widget is rendered into (which shows only in the
+    // painter's transform).
+    const QTransform& transform = painter.deviceTransform();
+    return std::max(painter.device() ? painter.device()->devicePixelRatioF() : 1.0,
+                    std::hypot(transform.m11(), transform.m12()));
+}
+
 int MapPainter::tileZoom(double devicePixelRatio, int minimumZoom, int maximumZoom) const {
     // 1e-9: a zoom of exactly 3 computed as 2.9999999 still means the tiles of 3.
     const double wanted = std::floor(zoom_ + std::log2(std::max(devicePixelRatio, 1.0)) + 1e-9);
@@ -60,11 +72,7 @@ void MapPainter::paintGrid(QPainter& painter) const {
 }
 
 void MapPainter::paintTiles(QPainter& painter, TileProvider& provider, RecentTiles& recent) const {
-    // Device pixels per map pixel: the screen's ratio, or that of the image a widget is rendered
-    // into (which shows only in the painter's transform).
-    const QTransform& transform = painter.deviceTransform();
-    const double dpr = std::max(painter.device() ? painter.device()->devicePixelRatioF() : 1.0,
-                                std::hypot(transform.m11(), transform.m12()));
+    const double dpr = devicePixelRatio(painter);
     const int z = tileZoom(dpr, provider.minimumZoom(), provider.maximumZoom());
     const int tileSize = std::max(provider.tileSize(), 1);
     const double scale = std::exp2(zoom_ - z) * tileSize_ / tileSize;  // logical pixels per tile pixel

@@ -41,6 +41,15 @@ public:
     void paintScaleBar(QPainter& painter) const;
     void paintAttribution(QPainter& painter, const QString& attribution) const;
 
+    Coordinate center() const { return center_; }
+    double zoom() const { return zoom_; }
+    QSizeF size() const { return size_; }
+    int tileSize() const { return tileSize_; }
+    // The world pixel (at zoom()) under the frame's top-left corner.
+    QPointF topLeftWorld() const;
+    // Device pixels per logical pixel of what the painter draws on.
+    static double devicePixelRatio(const QPainter& painter);
+
     // The zoom of the tiles drawn for a device pixel ratio.
     int tileZoom(double devicePixelRatio, int minimumZoom, int maximumZoom) const;
 

@@ -207,6 +207,7 @@ void MapView::addOverlay(std::shared_ptr<const Polyline> line) {
     std::optional<PolylineStyle> style;
     if (delegate_) style = delegate_->rendererForOverlay(*this, *line);
     overlays_.push_back(makeStyledOverlay(std::move(line), style.value_or(PolylineStyle{QColor(0, 90, 255), 2})));
+    ++overlaysVersion_;
     update();
 }
 
@@ -218,6 +219,7 @@ void MapView::removeOverlays(const std::vector<std::shared_ptr<const Polyline>>&
     const auto removed = std::remove_if(overlays_.begin(), overlays_.end(), listed);
     if (removed == overlays_.end()) return;
     overlays_.erase(removed, overlays_.end());
+    ++overlaysVersion_;
     update();
 }
 
@@ -322,7 +324,7 @@ void MapView::paintEvent(QPaintEvent*) {
     const MapPainter frame = framePainter();
     frame.paintGrid(painter);
     if (provider_) frame.paintTiles(painter, *provider_, recentTiles_);
-    frame.paintOverlays(painter, overlays_);
+    overlayLayer_.paint(painter, frame, overlays_, overlaysVersion_);
     frame.paintScaleBar(painter);
     if (provider_) frame.paintAttribution(painter, provider_->attribution());
 }

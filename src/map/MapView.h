@@ -6,6 +6,7 @@
 #include "MapAnnotation.h"
 #include "MapPainter.h"
 #include "MapTypes.h"
+#include "OverlayLayer.h"
 #include "RecentTiles.h"
 
 #include <QPointer>
@@ -108,6 +109,8 @@ private:
     double animationEndZoom_ = 0;
 
     std::vector<StyledOverlay> overlays_;
+    std::uint64_t overlaysVersion_ = 0;
+    OverlayLayer overlayLayer_;
     std::vector<ShownAnnotation> annotations_;
     RecentTiles recentTiles_;
 

@@ -428,3 +428,37 @@ TEST_F(MapViewTest, PointsWithoutAPlaceAreLeftOut) {
     EXPECT_GE(view.zoomLevel(), 0);
     EXPECT_LE(view.zoomLevel(), 19);
 }
+
+TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
+    RedLines delegate;
+    view.setDelegate(&delegate);
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const auto frame = [&] { return MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256); };
+    // An upright line through the centre, long enough to leave the frame at both ends.
+    view.addOverlay(line({frame().toCoordinate({200, -400}), frame().toCoordinate({200, 700})}));
+    ASSERT_TRUE(isRed(paint(view).pixelColor(200, 150)));
+
+    struct Step {
+        const char* name;
+        double panX;  // pixels eastwards
+        double zoomSteps;
+    };
+    const Step steps[] = {{"a little east", 50, 0}, {"back west", -120, 0}, {"far beyond the frame", 900, 0},
+                          {"zoomed in", 0, 1}, {"zoomed out", 0, -2.5}};
+    const Coordinate lineAt = frame().toCoordinate({200, 150});
+    for (const Step& step : steps) {
+        const QPointF centre = frame().toWidget(view.centerCoordinate());
+        view.setCenterCoordinate(frame().toCoordinate(centre + QPointF(step.panX, 0)));
+        if (step.zoomSteps != 0) view.zoomAbout({200, 150}, step.zoomSteps, false);
+        const QPointF expected = frame().toWidget(lineAt);
+        const QImage image = paint(view);
+        const QPoint at(int(std::lround(expected.x())), 150);
+        if (expected.x() < 0 || expected.x() >= 400) {
+            for (int x = 0; x < 400; x += 2) EXPECT_FALSE(isRed(image.pixelColor(x, 150))) << step.name << " x " << x;
+            continue;
+        }
+        EXPECT_TRUE(isRed(image.pixelColor(at))) << step.name << " at " << at.x();
+        EXPECT_FALSE(isRed(image.pixelColor(at + QPoint(6, 0)))) << step.name;
+        EXPECT_FALSE(isRed(image.pixelColor(at - QPoint(6, 0)))) << step.name;
+    }
+}
