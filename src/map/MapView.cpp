@@ -67,7 +67,6 @@ MapView::MapView(QWidget* parent)
       recenterButton_(makeButton(this, QStringLiteral("\u25CE"), tr("Centre on car"))),
       callout_(new QLabel(this)) {
     setAccessibleName(tr("Map"));
-    setMouseTracking(false);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(120, 90);
 

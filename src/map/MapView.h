@@ -12,7 +12,9 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class MapViewDelegate;

@@ -1,4 +1,3 @@
-#include "GridTileProvider.h"
 #include "MapGeometry.h"
 #include "MapView.h"
 #include "MapViewDelegate.h"
@@ -317,15 +316,6 @@ TEST_F(MapViewTest, ControlsHaveAccessibleNames) {
     for (QToolButton* button : view.findChildren<QToolButton*>()) names << button->accessibleName();
     names.sort();
     EXPECT_EQ(names, (QStringList{"Centre on car", "Zoom in", "Zoom out"}));
-}
-
-TEST(GridTileProvider, HasNoTilesAndTheUsualZooms) {
-    GridTileProvider grid;
-    EXPECT_TRUE(grid.tile({3, 1, 1}).isNull());
-    EXPECT_EQ(grid.minimumZoom(), 0);
-    EXPECT_EQ(grid.maximumZoom(), 19);
-    EXPECT_EQ(grid.tileSize(), 256);
-    EXPECT_TRUE(grid.attribution().isEmpty());
 }
 
 TEST(MapView, ForgetsAProviderThatIsDestroyed) {
