@@ -1,0 +1,36 @@
+#pragma once
+// What the map asks of its owner: the widget that shows a marker and the look of a line. The
+// defaults leave both to the map (a red dot, a blue line 2 points wide).
+
+#include "MapAnnotation.h"
+#include "MapTypes.h"
+
+#include <QColor>
+
+#include <optional>
+
+class MapView;
+class QWidget;
+
+struct PolylineStyle {
+    QColor color;
+    double lineWidth = 2;
+};
+
+class MapViewDelegate {
+public:
+    virtual ~MapViewDelegate() = default;
+
+    // Asked once each time the annotation is added; the map takes ownership of the widget.
+    virtual QWidget* viewForAnnotation(MapView& map, const MapAnnotation& annotation) {
+        (void)map;
+        (void)annotation;
+        return nullptr;
+    }
+    // Asked once each time the line is added.
+    virtual std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) {
+        (void)map;
+        (void)line;
+        return {};
+    }
+};
