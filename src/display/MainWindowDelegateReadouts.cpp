@@ -27,8 +27,9 @@ GPSInfoPanel MainWindowDelegate::infoPanel() const {
                         settings_);
 }
 
-void MainWindowDelegate::UpdatedGPSInfo(GPSPlayerEngine& /*engine*/, const GPSData& data, uint64_t /*index*/) {
+void MainWindowDelegate::UpdatedGPSInfo(GPSPlayerEngine& /*engine*/, const GPSData& data, uint64_t index) {
     infoPanel().show(data);
+    showCarLocation(data, static_cast<int64_t>(index));
 }
 
 void MainWindowDelegate::ResetControls() {

@@ -53,6 +53,10 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui) {
         .languageVietnamese = ui.languageVietnamese,
         .mapBaidu = ui.mapBaidu,
         .mapGoogle = ui.mapGoogle,
+        .mapOpenStreetMap = ui.mapOpenStreetMap,
+        .mapMBTiles = ui.mapMBTiles,
+        .mapTileFolder = ui.mapTileFolder,
+        .mapWorkOffline = ui.mapWorkOffline,
     };
 }
 

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QSlider>
 
+#include <string>
 #include <utility>
 
 namespace {
@@ -94,6 +95,16 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
     ui.unitMPH->setData(QVariant::fromValue<qulonglong>(0));
     for (QAction* unit : {ui.unitKMH, ui.unitMPH})
         QObject::connect(unit, &QAction::triggered, c, [c, unit] { c->OnUnitChanged(unit); });
+
+    // The tile sources: the two that need a file ask for it first.
+    const std::pair<QAction*, const char*> mapSources[] = {
+        {ui.mapOpenStreetMap, "osm"},
+        {ui.mapWorkOffline, "offline"},
+    };
+    for (const auto& [action, source] : mapSources)
+        QObject::connect(action, &QAction::triggered, c, [c, source = std::string(source)] { c->OnMapSourceChanged(source); });
+    QObject::connect(ui.mapMBTiles, &QAction::triggered, c, [c] { c->OnOpenMapFile(false); });
+    QObject::connect(ui.mapTileFolder, &QAction::triggered, c, [c] { c->OnOpenMapFile(true); });
 
     QObject::connect(ui.actionAbout, &QAction::triggered, c, [c] { c->OnShowAbout(); });
 }

@@ -6,7 +6,10 @@
 #include "GPSControlViewDelegate.h"
 #include "GPSPlayerViewDelegate.h"
 #include "MainWindowOutlets.h"
+#include "MapViewDelegate.h"
 #include "Playlist.h"
+#include "RouteTracker.h"
+#include "TileProvider.h"
 #include "TransportCommands.h"
 
 #include <QObject>
@@ -27,7 +30,8 @@ class QAction;
 class MainWindowDelegate : public QObject,
                            public GPSPlayerViewDelegate,
                            public GPSControlViewDelegate,
-                           public TransportCommands {
+                           public TransportCommands,
+                           public MapViewDelegate {
     Q_OBJECT
 
 public:
@@ -101,6 +105,17 @@ public:
     void ResetControls();
     void RefreshUnits();
 
+    // The map (display/).
+    // The route driven so far and the car, for every sample the player reports.
+    void showCarLocation(const GPSData& data, int64_t index);
+    QWidget* viewForAnnotation(MapView& map, const MapAnnotation& annotation) override;
+    std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) override;
+    // source: "osm", "mbtiles:PATH", "folder:PATH" or "offline"; stored for the next run.
+    void OnMapSourceChanged(const std::string& source);
+    // Asks for an MBTiles file or a folder of tiles, without blocking the window.
+    void OnOpenMapFile(bool folder);
+    void RefreshMapMenu(const std::string& source);
+
 
     bool isInited = false;
     Playlist playlist;
@@ -116,6 +131,8 @@ private:
     void selectRow(int64_t row);
     const std::filesystem::path& playlistURL(int64_t row) const;
     void setupPlaylistTable();
+    void setupMap();
+    void useTileSource(const std::string& source);
     // Adds a scan's movies when it finishes, with a progress dialog if it takes a while.
     void watchScan(MovieScan* scan);
 
@@ -125,6 +142,9 @@ private:
     GPSUtils& settings_;
     MainWindowOutlets outlets_;
     PlaylistTableModel* playlistModel_ = nullptr;  // a child of the controller
+    RouteTracker routeTracker_;
+    std::shared_ptr<MapAnnotation> car_;
+    std::unique_ptr<TileProvider> tileProvider_;
     std::vector<std::filesystem::path> pendingMovies_;
     bool quitAtEnd_ = false;
     bool quitting_ = false;

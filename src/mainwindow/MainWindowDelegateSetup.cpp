@@ -29,6 +29,7 @@ void MainWindowDelegate::windowDidBecomeMain() {
     // Before the controls: the font they ask for depends on whether registration worked.
     LEDFontManager::Register();
     setupControls();
+    setupMap();
     if (!pendingMovies_.empty()) {
         addToPlaylist(std::exchange(pendingMovies_, {}));
         UpdateControls();

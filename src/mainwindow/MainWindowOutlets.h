@@ -4,6 +4,7 @@
 
 class GPSPlayerView;
 class GPSTableView;
+class MapView;
 class QAbstractButton;
 class QAction;
 class QLabel;
@@ -15,7 +16,7 @@ struct MainWindowOutlets {
     QMainWindow* window = nullptr;
     GPSPlayerView* player = nullptr;
     GPSTableView* playListView = nullptr;
-    QWidget* mapView = nullptr;
+    MapView* mapView = nullptr;
 
     QLabel* txtTitle = nullptr;
     // Both run from 0 to 1 through sliderFraction / setSliderFraction.
@@ -56,4 +57,9 @@ struct MainWindowOutlets {
     QAction* languageVietnamese = nullptr;
     QAction* mapBaidu = nullptr;
     QAction* mapGoogle = nullptr;
+    // Where the tiles come from; the checked one is in use.
+    QAction* mapOpenStreetMap = nullptr;
+    QAction* mapMBTiles = nullptr;
+    QAction* mapTileFolder = nullptr;
+    QAction* mapWorkOffline = nullptr;
 };

@@ -238,6 +238,14 @@ void MapView::addAnnotation(std::shared_ptr<MapAnnotation> annotation) {
     if (first && pendingRegion_) pendingRegion_->center = annotations_.front().annotation->coordinate;
 }
 
+void MapView::annotationChanged(const std::shared_ptr<MapAnnotation>& annotation) {
+    const auto it = std::find_if(annotations_.begin(), annotations_.end(),
+                                 [&](const ShownAnnotation& shown) { return shown.annotation == annotation; });
+    if (it == annotations_.end()) return;
+    if (calloutMarker_ == it->view && callout_->isVisible()) callout_->setText(annotation->title);
+    placeAnnotations();
+}
+
 void MapView::removeAnnotation(const std::shared_ptr<MapAnnotation>& annotation) {
     const auto it = std::find_if(annotations_.begin(), annotations_.end(),
                                  [&](const ShownAnnotation& shown) { return shown.annotation == annotation; });

@@ -47,6 +47,9 @@ public:
 
     void addAnnotation(std::shared_ptr<MapAnnotation> annotation);
     void removeAnnotation(const std::shared_ptr<MapAnnotation>& annotation);
+    // An annotation on the map has a new coordinate or title: its view moves, keeping its callout
+    // open, where a removal and a new addition would close it.
+    void annotationChanged(const std::shared_ptr<MapAnnotation>& annotation);
     // The widget showing an annotation on the map, or null when it is not on the map.
     QWidget* viewForAnnotation(const std::shared_ptr<MapAnnotation>& annotation) const;
     // The callout bubble of the marker clicked last; hidden until a marker is clicked.

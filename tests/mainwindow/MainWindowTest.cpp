@@ -7,6 +7,7 @@
 #include "GPSTableView.h"
 #include "GPSUtils.h"
 #include "MainWindow.h"
+#include "MapView.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -48,7 +49,8 @@ protected:
         const std::filesystem::path file = std::filesystem::path(dir.path().toStdString()) / "Env.plist";
         std::ofstream(file) << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
                                "<plist version=\"1.0\"><dict><key>UnitType</key><integer>0</integer>"
-                               "<key>Volume</key><real>0.5</real></dict></plist>\n";
+                               "<key>Volume</key><real>0.5</real><key>MapSource</key><string>offline</string>"
+                               "</dict></plist>\n";
         return {.userFile = file, .shippedFile = std::nullopt};
     }
 
@@ -108,7 +110,9 @@ TEST_F(MainWindowTest, EveryOutletIsTheItemOfItsName) {
         EXPECT_EQ(item->objectName(), QString::fromLatin1(name));
     }
     EXPECT_EQ(o.window, &window_);
-    EXPECT_EQ(o.txtMapView->parentWidget(), o.mapView);
+    // The map's text field lies beside the map, not over it where it would take the map's clicks.
+    EXPECT_NE(o.txtMapView->parentWidget(), o.mapView);
+    EXPECT_TRUE(o.txtMapView->isHidden());
 }
 
 TEST_F(MainWindowTest, KeysAndDropsOfTheWholeWindowReachTheKeyHandlingView) {

@@ -5,6 +5,7 @@
 
 #include "GPSUtils.h"
 #include "MapView.h"
+#include "MapViewDelegate.h"
 #include "RouteMap.h"
 #include "TileProviderFactory.h"
 
@@ -32,16 +33,19 @@ public:
 
     void removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines) override { map_.removeOverlays(lines); }
     void addOverlay(std::shared_ptr<const Polyline> line) override { map_.addOverlay(std::move(line)); }
+    // The same marker for the whole run. Once it is on the map it is moved rather than taken off
+    // and put back, which would close the callout a user opened by clicking the car.
     void moveMarker(Coordinate coordinate, const std::string& title) override {
-        if (car_ == nullptr)
-            car_ = std::make_shared<MapAnnotation>();
-        else
-            map_.removeAnnotation(car_);
+        const bool shown = car_ != nullptr;
+        if (!shown) car_ = std::make_shared<MapAnnotation>();
         car_->coordinate = coordinate;
         car_->title = QString::fromStdString(title);
-        map_.addAnnotation(car_);
+        if (shown)
+            map_.annotationChanged(car_);
+        else
+            map_.addAnnotation(car_);
     }
-    void setRegion(const CoordinateRegion& region, bool animated) override { map_.setRegion(region, animated); }
+    void setRegion(CoordinateRegion region, bool animated) override { map_.setRegion(region, animated); }
     void setCenterCoordinate(Coordinate coordinate) override { map_.setCenterCoordinate(coordinate); }
     void logIntake(const std::string& newText, const std::string& lastText) override {
         qCInfo(lcRoute, "new = %s, last = %s", newText.c_str(), lastText.c_str());
@@ -74,12 +78,17 @@ std::optional<PolylineStyle> MainWindowDelegate::rendererForOverlay(MapView& /*m
 void MainWindowDelegate::setupMap() {
     if (outlets_.mapView == nullptr) return;
     outlets_.mapView->setDelegate(this);
+    QObject::connect(outlets_.mapView, &MapView::recenterRequested, this, [this] {
+        if (car_ != nullptr && outlets_.mapView != nullptr) outlets_.mapView->setCenterCoordinate(car_->coordinate);
+    });
     useTileSource(settings_.mapSource().value_or("osm"));
 }
 
 void MainWindowDelegate::useTileSource(const std::string& source) {
-    tileProvider_ = makeTileProvider(source);
-    if (outlets_.mapView != nullptr) outlets_.mapView->setTileProvider(tileProvider_.get());
+    // The map lets go of the old provider before it goes.
+    std::unique_ptr<TileProvider> provider = makeTileProvider(QString::fromStdString(source));
+    if (outlets_.mapView != nullptr) outlets_.mapView->setTileProvider(provider.get());
+    tileProvider_ = std::move(provider);
     RefreshMapMenu(source);
 }
 
