@@ -7,6 +7,7 @@
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
 #include "MainWindowDelegate.h"
+#include "MapView.h"
 #include "PlayerTestDoubles.h"
 #include "PlayerTestSupport.h"
 
@@ -35,6 +36,7 @@ public:
             std::filesystem::copy_file(fixtureMovie(names[i]), movies_.back());
         }
         factory->next = player;
+        settings.utils().setMapSource("offline");  // no tile server from a test
         player->duration = MediaTime::make(100000, 1000);
         view = new GPSPlayerView(
             factory, [](QWidget* parent) { return std::make_unique<RecordingSurface>(parent); },
@@ -44,7 +46,9 @@ public:
         durationSlider = slider("durationSlider", 100000);
         volumeSlider = slider("volumeSlider", 100);
         txtTitle = label("txtTitle");
-        MainWindowOutlets o{.window = &window, .player = view, .playListView = table, .txtTitle = txtTitle,
+        mapView = new MapView(&window);
+        mapView->resize(400, 300);
+        MainWindowOutlets o{.window = &window, .player = view, .playListView = table, .mapView = mapView, .txtTitle = txtTitle,
                             .durationSlider = durationSlider, .volumeSlider = volumeSlider};
         o.btMute = btMute = button("btMute");
         o.btSound = btSound = button("btSound");
@@ -99,6 +103,7 @@ public:
     GPSPlayerView* view = nullptr;
     GPSControlView* controlView = nullptr;
     GPSTableView* table = nullptr;
+    MapView* mapView = nullptr;
     QSlider* durationSlider = nullptr;
     QSlider* volumeSlider = nullptr;
     QLabel* txtTitle = nullptr;
