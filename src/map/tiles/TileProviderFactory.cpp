@@ -8,6 +8,7 @@
 std::unique_ptr<TileProvider> makeTileProvider(const QString& choice) {
     static const QString mbtilesPrefix = QStringLiteral("mbtiles:");
     static const QString folderPrefix = QStringLiteral("folder:");
+    static const QString urlPrefix = QStringLiteral("url:");
     if (choice.startsWith(mbtilesPrefix)) {
         auto provider = std::make_unique<MBTilesTileProvider>();
         return provider->open(choice.mid(mbtilesPrefix.size())) ? std::move(provider) : nullptr;
@@ -15,6 +16,17 @@ std::unique_ptr<TileProvider> makeTileProvider(const QString& choice) {
     if (choice.startsWith(folderPrefix)) {
         auto provider = std::make_unique<FolderTileProvider>();
         return provider->open(choice.mid(folderPrefix.size())) ? std::move(provider) : nullptr;
+    }
+    if (choice.startsWith(urlPrefix)) {
+        // A tile server of the user's own (a fleet's, or one on this machine), set in the settings file.
+        const QString urlTemplate = choice.mid(urlPrefix.size());
+        if (!urlTemplate.startsWith(QLatin1String("http://")) && !urlTemplate.startsWith(QLatin1String("https://")))
+            return nullptr;
+        TileSource source;
+        source.id = QStringLiteral("url");
+        source.name = urlTemplate;
+        source.urlTemplate = urlTemplate;
+        return std::make_unique<NetworkTileProvider>(std::move(source));
     }
     if (choice == QLatin1String("offline")) {
         return nullptr;

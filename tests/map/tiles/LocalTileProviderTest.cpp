@@ -142,6 +142,9 @@ TEST(TileProviderFactory, MakesTheProviderTheChoiceNames) {
         {"folder:" + dir.filePath("tiles"), true},
         {"folder:" + dir.filePath("nozooms"), false},
         {"folder:" + dir.filePath("missing"), false},
+        {"url:http://127.0.0.1:9/{z}/{x}/{y}.png", true},
+        {"url:file:///etc/{z}/{x}/{y}.png", false},  // files go through folder:, with their checks
+        {"url:", false},
     };
     for (const auto& [choice, made] : cases) {
         EXPECT_EQ(makeTileProvider(choice) != nullptr, made) << choice.toStdString();
