@@ -25,15 +25,7 @@ xvfb_start 1920x1080x24
 # A desktop session has a private runtime folder; without one Qt says so on stderr.
 export XDG_RUNTIME_DIR=$work/runtime
 mkdir -m 700 "$XDG_RUNTIME_DIR"
-# The user's own settings are neither read nor written, and no tile server is asked from a test;
-# the route's intake lines would be the player's only output.
-export XDG_CONFIG_HOME=$work/config
-mkdir -p "$XDG_CONFIG_HOME/dashtrack"
-cat >"$XDG_CONFIG_HOME/dashtrack/Env.plist" <<'PLIST'
-<?xml version="1.0" encoding="UTF-8"?>
-<plist version="1.0"><dict><key>MapSource</key><string>offline</string></dict></plist>
-PLIST
-export QT_LOGGING_RULES="dashtrack.route=false"
+xvfb_test_settings "$work/config"
 named_movie=$work/$'clip-\xff-'$(basename "$movie")
 cp "$movie" "$named_movie"
 

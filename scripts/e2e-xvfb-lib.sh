@@ -73,3 +73,17 @@ xvfb_window_geometry() {
     /^ *Height:/ { h = $NF }
     END { printf "%sx%s+%s+%s\n", w, h, x, y }'
 }
+
+# Settings of the player's own under CONFIG_HOME (exported as XDG_CONFIG_HOME), so that the user's
+# are neither read nor written: no tile server is asked from a test, and the route's intake lines,
+# which would be the player's only output, are silenced.
+#   xvfb_test_settings CONFIG_HOME
+xvfb_test_settings() {
+  export XDG_CONFIG_HOME=$1
+  mkdir -p "$XDG_CONFIG_HOME/dashtrack"
+  cat >"$XDG_CONFIG_HOME/dashtrack/Env.plist" <<'PLIST'
+<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict><key>MapSource</key><string>offline</string></dict></plist>
+PLIST
+  export QT_LOGGING_RULES="dashtrack.route=false"
+}

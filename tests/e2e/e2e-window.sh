@@ -29,13 +29,7 @@ while [ "$(date +%H%M%S)" -ge 115955 ] && [ "$(date +%H%M%S)" -le 120000 ]; do s
 mkdir "$work/clips"
 cp -p "$folder"/* "$work/clips/"
 export XDG_RUNTIME_DIR=$work/runtime HOME=$work/home XDG_CONFIG_HOME=$work/home/.config
-# No tile server is asked from a test; the route's intake lines would be the player's only output.
-mkdir -p "$XDG_CONFIG_HOME/dashtrack"
-cat >"$XDG_CONFIG_HOME/dashtrack/Env.plist" <<'PLIST'
-<?xml version="1.0" encoding="UTF-8"?>
-<plist version="1.0"><dict><key>MapSource</key><string>offline</string></dict></plist>
-PLIST
-export QT_LOGGING_RULES="dashtrack.route=false"
+xvfb_test_settings "$XDG_CONFIG_HOME"
 export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_QPA_PLATFORM=xcb DASHTRACK_AUDIO_OUTPUT=null
 # The system's Python, which has the accessibility bindings, whatever python is first on PATH.
 unset PYTHONPATH PYTHONHOME
