@@ -24,11 +24,8 @@ done
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=../scripts/e2e-xvfb-lib.sh
 source "$here/../scripts/e2e-xvfb-lib.sh"
-work=$(mktemp -d)
-xvfb_on_exit "rm -rf '$work'"
-xvfb_start 1920x1080x24
-mkdir -m 700 "$work/runtime" "$work/config"
-export XDG_RUNTIME_DIR=$work/runtime XDG_CONFIG_HOME=$work/config QT_QPA_PLATFORM=xcb DASHTRACK_AUDIO_OUTPUT=null
+xvfb_player_session
+work=$XVFB_WORK
 
 # mean seconds of a command in hyperfine's JSON export
 mean_of() { /usr/bin/python3 -c 'import json,sys; print(json.load(open(sys.argv[1]))["results"][int(sys.argv[2])]["mean"])' "$@"; }

@@ -22,19 +22,13 @@ done
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 # shellcheck source=../scripts/e2e-xvfb-lib.sh
 source "$here/../scripts/e2e-xvfb-lib.sh"
-work=$(mktemp -d)
-xvfb_on_exit "rm -rf '$work'"
-xvfb_start 1920x1080x24
-mkdir -m 700 "$work/runtime" "$work/config"
-export XDG_RUNTIME_DIR=$work/runtime XDG_CONFIG_HOME=$work/config QT_QPA_PLATFORM=xcb DASHTRACK_AUDIO_OUTPUT=null
+xvfb_player_session
+work=$XVFB_WORK
 
 app_pid=
 stop_app() {
-  if [ -n "$app_pid" ]; then
-    kill "$app_pid" 2>/dev/null || true
-    wait "$app_pid" 2>/dev/null || true
-    app_pid=
-  fi
+  xvfb_stop_process "$app_pid"
+  app_pid=
 }
 xvfb_on_exit stop_app
 

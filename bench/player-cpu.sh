@@ -22,9 +22,8 @@ done
 
 # shellcheck source=../scripts/e2e-xvfb-lib.sh
 source "$here/../scripts/e2e-xvfb-lib.sh"
-work=$(mktemp -d)
-xvfb_on_exit "rm -rf '$work'"
-xvfb_start 1920x1080x24
+xvfb_player_session
+work=$XVFB_WORK
 
 # One run: prints "cpu_seconds wall_seconds first_frame_ms decoder_drops output_drops frames_shown".
 run_once() {

@@ -18,24 +18,15 @@ source "$here/e2e-xvfb-lib.sh"
 
 min_brightness=0.10  # mean over the window, 0 (black) to 1 (white)
 mkdir -p "$out"
-work=$(mktemp -d)
-xvfb_on_exit "rm -rf '$work'"
-xvfb_start 1920x1080x24
-
-# A desktop session has a private runtime folder; without one Qt says so on stderr.
-export XDG_RUNTIME_DIR=$work/runtime
-mkdir -m 700 "$XDG_RUNTIME_DIR"
-xvfb_test_settings "$work/config"
+xvfb_player_session
+work=$XVFB_WORK
 named_movie=$work/$'clip-\xff-'$(basename "$movie")
 cp "$movie" "$named_movie"
 
 app_pid=
 stop_app() {
-  if [ -n "$app_pid" ]; then
-    kill "$app_pid" 2>/dev/null || true
-    wait "$app_pid" 2>/dev/null || true
-    app_pid=
-  fi
+  xvfb_stop_process "$app_pid"
+  app_pid=
 }
 xvfb_on_exit stop_app
 
@@ -52,7 +43,7 @@ shoot_sizes() {
 check_renderer() {
   local renderer=$1 window geometry mean changed
   echo "e2e: $renderer renderer on $DISPLAY"
-  DASHTRACK_VIDEO_RENDERER=$renderer DASHTRACK_AUDIO_OUTPUT=null QT_QPA_PLATFORM=xcb \
+  DASHTRACK_VIDEO_RENDERER=$renderer \
     "$app" "$named_movie" >"$out/$renderer.log" 2>&1 &
   app_pid=$!
   if ! window=$(xvfb_wait_for_window Dashtrack "$app_pid"); then

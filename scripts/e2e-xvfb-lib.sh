@@ -87,3 +87,23 @@ xvfb_test_settings() {
 PLIST
   export QT_LOGGING_RULES="dashtrack.route=false"
 }
+
+# The player's surroundings for a scripted run: a scratch folder (XVFB_WORK, removed on exit), a
+# virtual display, a private runtime folder (without one Qt says so on stderr), the settings of
+# xvfb_test_settings, X11 and no sound.
+xvfb_player_session() {
+  XVFB_WORK=$(mktemp -d)
+  xvfb_on_exit "rm -rf '$XVFB_WORK'"
+  xvfb_start 1920x1080x24
+  mkdir -m 700 "$XVFB_WORK/runtime"
+  export XDG_RUNTIME_DIR=$XVFB_WORK/runtime QT_QPA_PLATFORM=xcb DASHTRACK_AUDIO_OUTPUT=null
+  xvfb_test_settings "$XVFB_WORK/config"
+}
+
+# Ends a process started in the background and reaps it; nothing for an empty pid.
+#   xvfb_stop_process PID
+xvfb_stop_process() {
+  [ -n "$1" ] || return 0
+  kill "$1" 2>/dev/null || true
+  wait "$1" 2>/dev/null || true
+}
