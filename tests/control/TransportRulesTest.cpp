@@ -1,10 +1,9 @@
 // The transport rules the controller applies: previous and next entry with their unsigned
-// comparison, the choice of playWithIndex and OnPlay, the slider steps, the sound rules and the
-// enabled and shown states of the buttons.
+// comparison, the choice of playWithIndex and OnPlay, the slider steps, and the enabled and shown
+// states of the buttons. The sound rules are tested through the controller (ControllerTest).
 
 #include "PlaylistNavigation.h"
 #include "SliderStep.h"
-#include "SoundRules.h"
 #include "TransportButtonStates.h"
 
 #include <gtest/gtest.h>
@@ -99,37 +98,6 @@ TEST(SliderStep, StepsStopAtTheEndsAndDoNothingThere) {
     }
     EXPECT_EQ(SliderStep::down(nan, 0.1), std::nullopt);
     EXPECT_EQ(SliderStep::up(nan, 0.1), std::nullopt);
-}
-
-TEST(SoundRules, TheVolumeSliderMutesAtZeroAndUnmutesAboveIt) {
-    using Switch = SoundRules::Switch;
-    EXPECT_EQ(SoundRules::forVolume(0.0, false), Switch::Mute);
-    EXPECT_EQ(SoundRules::forVolume(0.0, true), Switch::Mute);
-    EXPECT_EQ(SoundRules::forVolume(0.1, true), Switch::Unmute);
-    EXPECT_EQ(SoundRules::forVolume(0.1, false), Switch::None);
-    EXPECT_EQ(SoundRules::forVolume(1e-9, true), Switch::Unmute) << "only exactly 0 mutes";
-}
-
-TEST(SoundRules, OnlyAClickOnTheSoundButtonsMovesTheSlider) {
-    const auto clickMute = SoundRules::mute(false, true);
-    EXPECT_EQ(clickMute.setEngineMuted, true);
-    EXPECT_TRUE(clickMute.muteShown);
-    EXPECT_EQ(clickMute.volumeSlider, 0.0);
-
-    const auto sliderMute = SoundRules::mute(true, false);
-    EXPECT_EQ(sliderMute.setEngineMuted, std::nullopt) << "already muted";
-    EXPECT_TRUE(sliderMute.muteShown);
-    EXPECT_EQ(sliderMute.volumeSlider, std::nullopt);
-
-    const auto clickSound = SoundRules::sound(true, true, 0.6);
-    EXPECT_EQ(clickSound.setEngineMuted, false);
-    EXPECT_FALSE(clickSound.muteShown);
-    EXPECT_EQ(clickSound.volumeSlider, 0.6) << "back at the last volume";
-
-    const auto sliderSound = SoundRules::sound(false, false, 0.6);
-    EXPECT_EQ(sliderSound.setEngineMuted, std::nullopt);
-    EXPECT_FALSE(sliderSound.muteShown);
-    EXPECT_EQ(sliderSound.volumeSlider, std::nullopt);
 }
 
 TEST(TransportButtonStates, UpdateControlsFollowsTheLoadedEntryAndTheProgress) {
