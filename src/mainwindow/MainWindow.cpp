@@ -4,6 +4,8 @@
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
 #include "MainWindowConnections.h"
+#include "SetupTitleBar.h"
+#include "WindowChromeMode.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -91,6 +93,8 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
       ui_(std::make_unique<Ui::MainWindow>()),
       controller_(std::make_unique<MainWindowDelegate>(settings)) {
     ui_->setupUi(this);
+    // Before the window is first shown: a frameless window must be made so from the start.
+    SetupTitleBarForMainWindow(*this, currentChromeMode());
     setStandardIcons(*ui_, *style());
     // One of each pair shows at a time; the controller's first refresh keeps it so.
     ui_->btPause->hide();
