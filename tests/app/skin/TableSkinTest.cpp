@@ -128,7 +128,7 @@ QImage paintCell(const QStyledItemDelegate& delegate, QStyle::State state, Qt::A
     return image;
 }
 
-TEST(TextCell, SelectionColourIgnoresFocusAndActivation) {
+TEST(TextCellSkin, SelectionColourIgnoresFocusAndActivation) {
     for (const QStyle::State state : {QStyle::State_Active, QStyle::State_None, QStyle::State_HasFocus}) {
         SCOPED_TRACE(static_cast<int>(state));
         const QImage image = paintCell(GPSTextCell(), state | QStyle::State_Selected, Qt::AlignLeft);
@@ -138,7 +138,7 @@ TEST(TextCell, SelectionColourIgnoresFocusAndActivation) {
     }
 }
 
-TEST(TextCell, TextSitsTwoPixelsCloserToTheCellsEdge) {
+TEST(TextCellSkin, TextSitsTwoPixelsCloserToTheCellsEdge) {
     for (const auto& [alignment, shift] : {std::pair{Qt::AlignLeft, -2}, {Qt::AlignRight, 2}}) {
         SCOPED_TRACE(alignment);
         // The text's first dark column for left alignment, its last for right.
