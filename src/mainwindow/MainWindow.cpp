@@ -5,6 +5,7 @@
 #include "GPSTableView.h"
 #include "MainWindowConnections.h"
 #include "SetupTitleBar.h"
+#include "SkinControls.h"
 #include "WindowChromeMode.h"
 #include "ui_MainWindow.h"
 
@@ -96,6 +97,8 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
     // Before the window is first shown: a frameless window must be made so from the start.
     SetupTitleBarForMainWindow(*this, currentChromeMode());
     setStandardIcons(*ui_, *style());
+    applySliderSkin(*ui_->durationSlider);
+    applySliderSkin(*ui_->volumeSlider);
     // One of each pair shows at a time; the controller's first refresh keeps it so.
     ui_->btPause->hide();
     ui_->btMute->hide();

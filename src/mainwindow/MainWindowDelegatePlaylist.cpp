@@ -7,6 +7,7 @@
 #include "GPSUtils.h"
 #include "MovieScan.h"
 #include "PlaylistTableModel.h"
+#include "SkinControls.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -41,6 +42,8 @@ void MainWindowDelegate::setupPlaylistTable() {
     rows->setSectionResizeMode(QHeaderView::Fixed);
     rows->setMinimumSectionSize(kRowHeight);
     rows->setDefaultSectionSize(kRowHeight);
+    // Our header look for every column; the header it puts in is the one to configure.
+    applyPlaylistTableSkin(*table);
     QHeaderView* columns = table->horizontalHeader();
     columns->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int column = 1; column < playlistModel_->columnCount(); ++column)

@@ -86,6 +86,10 @@ void GPSSliderCell::drawComplexControl(ComplexControl control, const QStyleOptio
     // Grey first, blue over it: where the two rounded ends meet at the split, blue wins.
     fillRounded(*painter, QRectF(QPointF(split, bar.top()), bar.bottomRight()), 2, SkinColours::sliderRemaining());
     fillRounded(*painter, QRectF(bar.topLeft(), QPointF(split, bar.bottom())), 2, SkinColours::sliderDone());
+    // The played part is the window's own blue: a faint edge keeps the bar visible on it.
+    QPainterPath outline;
+    outline.addRoundedRect(bar.adjusted(-0.5, -0.5, 0.5, 0.5), 2.5, 2.5);
+    painter->strokePath(outline, QPen(QColor(0, 0, 0, 70), 1));
     fillRounded(*painter, knob.adjusted(kKnobInset, 0, -kKnobInset, 0), 3, SkinColours::sliderKnob());
     painter->restore();
 }
