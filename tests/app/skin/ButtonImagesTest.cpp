@@ -8,8 +8,8 @@
 
 namespace {
 
-const QStringList kNames = {"prev",     "backward", "play", "pause", "forward", "next",
-                            "stop",     "snapshot", "fullscreen", "mute", "sound"};
+const QStringList kNames = {"prev", "backward", "play",       "pause", "forward", "next",
+                            "stop", "snapshot", "fullscreen", "mute",  "sound"};
 const QStringList kVariants = {"", "-hover", "-pressed"};
 
 TEST(ButtonImages, EveryShippedPictureIsAValid32By32Svg) {
@@ -25,23 +25,14 @@ TEST(ButtonImages, EveryShippedPictureIsAValid32By32Svg) {
     }
 }
 
-// Through the button, as the window uses them: the three pictures differ from each other, and the
-// white glyph keeps a dark edge that sets it off the inactive window's light grey.
-TEST(ButtonImages, VariantsDifferAndTheGlyphReadsOnGrey) {
+// Through the button, as the window loads them: the white glyph keeps a dark edge that sets it
+// off the inactive window's light grey.
+TEST(ButtonImages, GlyphReadsOnTheInactiveGrey) {
     for (const QString& name : kNames) {
         GPSButton button;
         button.resize(32, 32);
         button.setImages(name);
-        EXPECT_EQ(button.overImage(), ":/buttons/" + name + "-hover.svg");
-        const QString normal = button.defaultImage();
-        ASSERT_FALSE(normal.isEmpty()) << name.toStdString();
-        const QImage pictures[] = {renderOn(button, kWindowBlue),
-                                   (button.setDefaultImage(button.overImage()), renderOn(button, kWindowBlue)),
-                                   (button.setDefaultImage(button.downImage()), renderOn(button, kWindowBlue))};
-        EXPECT_NE(pictures[0], pictures[1]) << name.toStdString();
-        EXPECT_NE(pictures[1], pictures[2]) << name.toStdString();
-
-        button.setDefaultImage(normal);
+        ASSERT_EQ(button.downImage(), ":/buttons/" + name + "-pressed.svg");
         const QImage onGrey = renderOn(button, kInactiveGrey);
         int white = 0, dark = 0;
         for (int y = 0; y < onGrey.height(); ++y)
