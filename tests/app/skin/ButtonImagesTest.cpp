@@ -1,4 +1,5 @@
 #include "GPSButton.h"
+#include "SkinPixels.h"
 #include "SkinTestSupport.h"
 
 #include <QDir>
@@ -12,7 +13,7 @@ const QStringList kNames = {"prev", "backward", "play",       "pause", "forward"
                             "stop", "snapshot", "fullscreen", "mute",  "sound"};
 const QStringList kVariants = {"", "-hover", "-pressed"};
 
-TEST(ButtonImages, EveryShippedPictureIsAValid32By32Svg) {
+TEST(ButtonImagesSkin, EveryShippedPictureIsAValid32By32Svg) {
     QStringList expected;
     for (const QString& name : kNames)
         for (const QString& variant : kVariants) expected << name + variant + ".svg";
@@ -27,7 +28,7 @@ TEST(ButtonImages, EveryShippedPictureIsAValid32By32Svg) {
 
 // Through the button, as the window loads them: the white glyph keeps a dark edge that sets it
 // off the inactive window's light grey.
-TEST(ButtonImages, GlyphReadsOnTheInactiveGrey) {
+TEST(ButtonImagesSkin, GlyphReadsOnTheInactiveGrey) {
     for (const QString& name : kNames) {
         GPSButton button;
         button.resize(32, 32);

@@ -1,5 +1,6 @@
 #include "GPSButton.h"
 #include "GPSUtils.h"
+#include "SkinPixels.h"
 #include "SkinTestSupport.h"
 
 #include <QApplication>
@@ -97,9 +98,9 @@ struct PictureCase {
 
 void PrintTo(const PictureCase& c, std::ostream* out) { *out << c.name; }
 
-class ButtonPicture : public ::testing::TestWithParam<PictureCase> {};
+class ButtonSkinPicture : public ::testing::TestWithParam<PictureCase> {};
 
-TEST_P(ButtonPicture, FollowsPointerPressAndEnabledState) {
+TEST_P(ButtonSkinPicture, FollowsPointerPressAndEnabledState) {
     const PictureCase& c = GetParam();
     Fixture f;
     f.button.setDefaultImage(f.write("normal.svg", flatSvg(kNormal)));
@@ -108,12 +109,13 @@ TEST_P(ButtonPicture, FollowsPointerPressAndEnabledState) {
     for (Step step : c.steps) step(f);
     const QColor expected = blend(c.picture, kWindowBlue, c.opacity);
     const QColor drawn = f.centre();
-    EXPECT_TRUE(near(drawn, expected)) << drawn.name().toStdString() << " instead of " << expected.name().toStdString();
+    EXPECT_TRUE(sameColour(drawn, expected))
+        << drawn.name().toStdString() << " instead of " << expected.name().toStdString();
     EXPECT_EQ(f.clicks, c.clicks);
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Steps, ButtonPicture,
+    Steps, ButtonSkinPicture,
     ::testing::Values(PictureCase{"Untouched", true, true, {}, kNormal, 1.0, 0},
                       PictureCase{"Hovered", true, true, {Enter}, kOver, 1.0, 0},
                       PictureCase{"HoveredThenLeft", true, true, {Enter, Leave}, kNormal, 1.0, 0},
@@ -133,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
                       PictureCase{"Reenabled", true, true, {Disable, Enable}, kNormal, 1.0, 0}),
     [](const auto& info) { return info.param.name; });
 
-TEST(GPSButton, DrawsSharplyAtTwiceTheResolutionEnabledOrNot) {
+TEST(ButtonSkin, DrawsSharplyAtTwiceTheResolutionEnabledOrNot) {
     // Left half red, right half green: drawn as vectors, the edge falls between two device pixels.
     Fixture f;
     f.button.setDefaultImage(f.write("split.svg", svgOf({{0, 16, kNormal}, {16, 16, kOver}})));
@@ -142,20 +144,21 @@ TEST(GPSButton, DrawsSharplyAtTwiceTheResolutionEnabledOrNot) {
         const double opacity = enabled ? 1.0 : 0.5;
         const QImage image = renderOn(f.button, kWindowBlue, 2.0);
         ASSERT_EQ(image.width(), 64);
-        EXPECT_TRUE(near(image.pixelColor(31, 20), blend(kNormal, kWindowBlue, opacity))) << "enabled " << enabled;
-        EXPECT_TRUE(near(image.pixelColor(32, 20), blend(kOver, kWindowBlue, opacity))) << "enabled " << enabled;
+        EXPECT_TRUE(sameColour(image.pixelColor(31, 20), blend(kNormal, kWindowBlue, opacity)))
+            << "enabled " << enabled;
+        EXPECT_TRUE(sameColour(image.pixelColor(32, 20), blend(kOver, kWindowBlue, opacity))) << "enabled " << enabled;
     }
 }
 
-TEST(GPSButton, DisabledPictureFadesAsAWholeNotLayerByLayer) {
+TEST(ButtonSkin, DisabledPictureFadesAsAWholeNotLayerByLayer) {
     // Red entirely covered by green: faded as one picture, no red may show through.
     Fixture f;
     f.button.setDefaultImage(f.write("layers.svg", svgOf({{0, 32, kNormal}, {0, 32, kOver}})));
     f.button.setEnabled(false);
-    EXPECT_TRUE(near(f.centre(), blend(kOver, kWindowBlue, 0.5))) << f.centre().name().toStdString();
+    EXPECT_TRUE(sameColour(f.centre(), blend(kOver, kWindowBlue, 0.5))) << f.centre().name().toStdString();
 }
 
-TEST(GPSButton, MissingOrBrokenPictureLeavesItAbsentAndShowsTheText) {
+TEST(ButtonSkin, MissingOrBrokenPictureLeavesItAbsentAndShowsTheText) {
     for (const char* contents : {static_cast<const char*>(nullptr), "<svg this is not"}) {
         Fixture f;
         const QString path = contents ? f.write("broken.svg", QString::fromUtf8(contents)) : f.dir.filePath("none.svg");

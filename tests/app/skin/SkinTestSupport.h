@@ -1,13 +1,11 @@
 #pragma once
-// Off-screen rendering of skinned controls on the window's blue, and a comparison of colours
-// that allows for rounding in the blend.
+// Off-screen rendering of the image buttons on the window's backgrounds, and the colours expected
+// where a picture is blended over them.
 
 #include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QWidget>
-
-#include <cstdlib>
 
 inline const QColor kWindowBlue = QColor::fromRgbF(0.09f, 0.63f, 1.0f);
 inline const QColor kInactiveGrey = QColor::fromRgbF(0.9f, 0.9f, 0.9f);
@@ -27,9 +25,4 @@ inline QImage renderOn(QWidget& widget, const QColor& background, qreal devicePi
 inline QColor blend(const QColor& top, const QColor& bottom, double opacity) {
     auto mix = [&](int a, int b) { return static_cast<int>(a * opacity + b * (1.0 - opacity) + 0.5); };
     return QColor(mix(top.red(), bottom.red()), mix(top.green(), bottom.green()), mix(top.blue(), bottom.blue()));
-}
-
-inline bool near(const QColor& a, const QColor& b, int tolerance = 2) {
-    return std::abs(a.red() - b.red()) <= tolerance && std::abs(a.green() - b.green()) <= tolerance &&
-           std::abs(a.blue() - b.blue()) <= tolerance;
 }
