@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "GPSButton.h"
 #include "GPSControlView.h"
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
@@ -11,9 +12,7 @@
 
 #include <QCloseEvent>
 #include <QEvent>
-#include <QStyle>
 
-#include <utility>
 
 namespace {
 
@@ -63,28 +62,9 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui) {
     };
 }
 
-// The style's own media pictures; the interface description's texts stay as names and fallbacks.
-void setStandardIcons(Ui::MainWindow& ui, const QStyle& style) {
-    const std::pair<QAbstractButton*, QStyle::StandardPixmap> icons[] = {
-        {ui.btPrev, QStyle::SP_MediaSkipBackward},
-        {ui.btBackward, QStyle::SP_MediaSeekBackward},
-        {ui.btPlay, QStyle::SP_MediaPlay},
-        {ui.btPause, QStyle::SP_MediaPause},
-        {ui.btForward, QStyle::SP_MediaSeekForward},
-        {ui.btNext, QStyle::SP_MediaSkipForward},
-        {ui.btStop, QStyle::SP_MediaStop},
-        {ui.btSnapshot, QStyle::SP_DialogSaveButton},
-        {ui.btToggleFullscreen, QStyle::SP_TitleBarMaxButton},
-        {ui.btMute, QStyle::SP_MediaVolumeMuted},
-        {ui.btSound, QStyle::SP_MediaVolume},
-    };
-    for (const auto& [button, pixmap] : icons) {
-        const QIcon icon = style.standardIcon(pixmap);
-        if (!icon.isNull()) button->setIcon(icon);
-        button->setIconSize(QSize(24, 24));
-        // Keys belong to the key-handling view: a focused button would take Space for itself.
-        button->setFocusPolicy(Qt::NoFocus);
-    }
+// The buttons' pictures ignore the pointer while a modal view is up; that flag lives in the settings.
+void connectButtonsToSettings(QMainWindow& window, const GPSUtils& settings) {
+    for (GPSButton* button : window.findChildren<GPSButton*>()) button->setUtils(&settings);
 }
 
 }  // namespace
@@ -96,7 +76,7 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
     ui_->setupUi(this);
     // Before the window is first shown: a frameless window must be made so from the start.
     SetupTitleBarForMainWindow(*this, currentChromeMode());
-    setStandardIcons(*ui_, *style());
+    connectButtonsToSettings(*this, settings);
     applySliderSkin(*ui_->durationSlider);
     applySliderSkin(*ui_->volumeSlider);
     // One of each pair shows at a time; the controller's first refresh keeps it so.
