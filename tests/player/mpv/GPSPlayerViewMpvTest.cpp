@@ -9,12 +9,8 @@
 #include "QtUpdateTimer.h"
 #include "VideoSurfaceFactory.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <utility>
 #include <vector>
 
@@ -103,17 +99,6 @@ TEST_F(GPSPlayerViewMpvTest, PlaysAMovieReportingItsSamplesInOrderUpToTheEnd) {
     EXPECT_GE(delegate_.samples.back().first, 9u);
 }
 
-TEST_F(GPSPlayerViewMpvTest, AMovieWithoutGPSPlaysWithoutSamples) {
-    engine_.setMovie(fixtureMovie("nogps.mov"));
-    ASSERT_TRUE(engine_.IsReady());
-    ASSERT_TRUE(engine_.gpsDataList().has_value());
-    EXPECT_TRUE(engine_.gpsDataList()->empty());
-    engine_.Resume();
-    ASSERT_TRUE(runUntil([&] { return !delegate_.progress.empty() && delegate_.progress.back() > 0.1; }));
-    EXPECT_TRUE(delegate_.playing());
-    EXPECT_TRUE(delegate_.samples.empty());
-}
-
 TEST_F(GPSPlayerViewMpvTest, AMovieWhoseNameIsNotUtf8PlaysWithItsTrack) {
     const NonUtf8MovieCopy movie(fixtureMovie("index_mp4.mp4"));
     ASSERT_FALSE(movie.path().empty());
@@ -125,22 +110,6 @@ TEST_F(GPSPlayerViewMpvTest, AMovieWhoseNameIsNotUtf8PlaysWithItsTrack) {
     ASSERT_TRUE(runUntil([&] { return delegate_.samples.size() >= 2; }));
     EXPECT_TRUE(delegate_.playing());
     EXPECT_EQ(delegate_.samples[1].first, 1u);
-}
-
-TEST_F(GPSPlayerViewMpvTest, WhatIsNotAMovieLeavesTheViewEmpty) {
-    engine_.setMovie(fixtureMovie("index_mp4.mp4"));
-    ASSERT_TRUE(engine_.IsReady());
-    QTemporaryDir dir;
-    const std::filesystem::path text = std::filesystem::path(QFile::encodeName(dir.path()).constData()) / "notes.mov";
-    std::ofstream(text) << "not a movie\n";
-    engine_.setMovie(text);
-    EXPECT_FALSE(engine_.IsReady());
-    EXPECT_FALSE(delegate_.playing());
-    engine_.Resume();
-    runFor(30);
-    EXPECT_TRUE(delegate_.progress.empty());
-    EXPECT_TRUE(delegate_.samples.empty());
-    EXPECT_EQ(delegate_.completed, 0);
 }
 
 }  // namespace
