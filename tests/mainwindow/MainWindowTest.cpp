@@ -205,39 +205,25 @@ TEST_F(MainWindowTest, MenusOfferOpenAndQuitByKeyAndShowTheItemsWithoutBehaviour
     EXPECT_EQ(titles, (QStringList{"File", "Playback", "Units", "Language", "Map", "Help"}));
 }
 
-TEST_F(MainWindowTest, UnitItemsCarryTheirUnitTypeAndOnlyOneIsChecked) {
+TEST_F(MainWindowTest, UnitItemsFollowTheStoredUnitAndStoreTheirTag) {
     const MainWindowOutlets& o = window_.controller().outlets();
-    EXPECT_EQ(o.unitKMH->data().toULongLong(), 1u);
-    EXPECT_EQ(o.unitMPH->data().toULongLong(), 0u);
     ASSERT_NE(o.unitKMH->actionGroup(), nullptr);
     EXPECT_EQ(o.unitKMH->actionGroup(), o.unitMPH->actionGroup());
     EXPECT_TRUE(o.unitKMH->actionGroup()->isExclusive());
-
-    struct Case {
-        uint64_t stored;
-        bool kmhChecked;
-    };
     // Only 1 is KM/H on the menu; any other stored value checks MPH.
-    for (const Case c : {Case{0, false}, Case{1, true}, Case{2, false}}) {
-        settings_.setUnitType(c.stored);
+    for (const auto& [stored, kmhChecked] : {std::pair<uint64_t, bool>{0, false}, {1, true}, {2, false}}) {
+        settings_.setUnitType(stored);
         window_.controller().RefreshMenu();
-        EXPECT_EQ(o.unitKMH->isChecked(), c.kmhChecked) << c.stored;
-        EXPECT_EQ(o.unitMPH->isChecked(), !c.kmhChecked) << c.stored;
+        EXPECT_EQ(o.unitKMH->isChecked(), kmhChecked) << stored;
+        EXPECT_EQ(o.unitMPH->isChecked(), !kmhChecked) << stored;
     }
-}
-
-TEST_F(MainWindowTest, ChoosingAUnitStoresItsTagAndMovesTheCheckMark) {
-    const MainWindowOutlets& o = window_.controller().outlets();
-    settings_.setUnitType(0);
-    activate();
-    ASSERT_TRUE(o.unitMPH->isChecked());
-    o.unitKMH->trigger();
-    EXPECT_EQ(settings_.unitType(), 1u);
-    EXPECT_TRUE(o.unitKMH->isChecked());
-    EXPECT_FALSE(o.unitMPH->isChecked());
-    o.unitMPH->trigger();
-    EXPECT_EQ(settings_.unitType(), 0u);
-    EXPECT_TRUE(o.unitMPH->isChecked());
+    // Choosing an item stores its tag and moves the check mark.
+    for (const auto& [item, tag] : {std::pair{o.unitKMH, uint64_t{1}}, {o.unitMPH, uint64_t{0}}}) {
+        item->trigger();
+        EXPECT_EQ(settings_.unitType(), tag);
+        EXPECT_TRUE(item->isChecked());
+    }
+    EXPECT_FALSE(o.unitKMH->isChecked());
 }
 
 TEST_F(MainWindowTest, OnlyTheFirstActivationSetsTheControlsUp) {
