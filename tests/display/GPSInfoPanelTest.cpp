@@ -106,14 +106,6 @@ TEST_F(GPSInfoPanelTest, ResetWritesTheIdleTextsAndEmptiesTheMapText) {
     expectUntouchedExcept({"txtSpeed", "txtLatitude", "txtLongitude", "txtDate", "txtTime", "txtMapView"});
 }
 
-TEST_F(GPSInfoPanelTest, TheIdleTextsHaveTheShapesOfAnEmptySample) {
-    const GPSData empty;
-    EXPECT_EQ(GPSInfoPanel::idleSpeedText, empty.SpeedText());
-    EXPECT_EQ(GPSInfoPanel::idleCoordinateText, empty.LatitudeText());
-    EXPECT_EQ(GPSInfoPanel::idleDateText, empty.DateText());
-    EXPECT_EQ(GPSInfoPanel::idleTimeText, empty.TimeText());
-}
-
 TEST_F(GPSInfoPanelTest, RefreshingUnitsWritesTheUnitAndTheGivenSpeedOnly) {
     const GPSInfoPanel panel(outlets(), settings());
     const struct {
