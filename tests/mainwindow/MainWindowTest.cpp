@@ -67,44 +67,18 @@ protected:
 
 TEST_F(MainWindowTest, EveryOutletIsTheItemOfItsName) {
     const MainWindowOutlets& o = window_.controller().outlets();
+    // Member and object name are the same word for every outlet.
+#define OUTLET(name) {#name, o.name}
     const std::pair<const char*, QObject*> outlets[] = {
-        {"player", o.player},
-        {"playListView", o.playListView},
-        {"mapView", o.mapView},
-        {"txtTitle", o.txtTitle},
-        {"durationSlider", o.durationSlider},
-        {"volumeSlider", o.volumeSlider},
-        {"btMute", o.btMute},
-        {"btSound", o.btSound},
-        {"btPrev", o.btPrev},
-        {"btBackward", o.btBackward},
-        {"btPlay", o.btPlay},
-        {"btPause", o.btPause},
-        {"btForward", o.btForward},
-        {"btNext", o.btNext},
-        {"btStop", o.btStop},
-        {"btSnapshot", o.btSnapshot},
-        {"btToggleFullscreen", o.btToggleFullscreen},
-        {"txtSpeed", o.txtSpeed},
-        {"txtSpeedUnit", o.txtSpeedUnit},
-        {"lblLatitude", o.lblLatitude},
-        {"txtLatitude", o.txtLatitude},
-        {"lblLongitude", o.lblLongitude},
-        {"txtLongitude", o.txtLongitude},
-        {"lblDate", o.lblDate},
-        {"txtDate", o.txtDate},
-        {"lblTime", o.lblTime},
-        {"txtTime", o.txtTime},
-        {"txtMapView", o.txtMapView},
-        {"unitKMH", o.unitKMH},
-        {"unitMPH", o.unitMPH},
-        {"languageChinese", o.languageChinese},
-        {"languageEnglish", o.languageEnglish},
-        {"languageJananese", o.languageJananese},
-        {"languageVietnamese", o.languageVietnamese},
-        {"mapBaidu", o.mapBaidu},
-        {"mapGoogle", o.mapGoogle},
+        OUTLET(player), OUTLET(playListView), OUTLET(mapView), OUTLET(txtTitle), OUTLET(durationSlider),
+        OUTLET(volumeSlider), OUTLET(btMute), OUTLET(btSound), OUTLET(btPrev), OUTLET(btBackward), OUTLET(btPlay),
+        OUTLET(btPause), OUTLET(btForward), OUTLET(btNext), OUTLET(btStop), OUTLET(btSnapshot),
+        OUTLET(btToggleFullscreen), OUTLET(txtSpeed), OUTLET(txtSpeedUnit), OUTLET(lblLatitude), OUTLET(txtLatitude),
+        OUTLET(lblLongitude), OUTLET(txtLongitude), OUTLET(lblDate), OUTLET(txtDate), OUTLET(lblTime), OUTLET(txtTime),
+        OUTLET(txtMapView), OUTLET(unitKMH), OUTLET(unitMPH), OUTLET(languageChinese), OUTLET(languageEnglish),
+        OUTLET(languageJananese), OUTLET(languageVietnamese), OUTLET(mapBaidu), OUTLET(mapGoogle),
     };
+#undef OUTLET
     for (const auto& [name, item] : outlets) {
         ASSERT_NE(item, nullptr) << name;
         EXPECT_EQ(item->objectName(), QString::fromLatin1(name));
