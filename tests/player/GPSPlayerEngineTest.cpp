@@ -171,7 +171,7 @@ TEST_F(GPSPlayerEngineTest, ReportsTheSampleOfEachWholeSecondAndProgressOnEveryT
     EXPECT_EQ(engine_->curIndex(), 10) << "beyond the track the last position stays";
     ASSERT_EQ(delegate_.progress.size(), std::size(times));
     EXPECT_DOUBLE_EQ(delegate_.progress.back(), 11.5 / 12.0);
-    EXPECT_NEAR(delegate_.sampleSpeeds.back(), 22.5f, 0.01);
+    EXPECT_NEAR(delegate_.sampleData.back().SpeedMPH(), 22.5f, 0.01);
     // In the unit the shared settings choose: the text of the last sample, whichever that is.
     EXPECT_EQ(engine_->currentSpeedText(), engine_->gpsDataList()->back().SpeedText());
 
