@@ -206,11 +206,8 @@ TEST_F(MainWindowTest, OnlyTheFirstActivationSetsTheControlsUp) {
     EXPECT_FALSE(controller.isInited);
     activate();
     EXPECT_TRUE(controller.isInited);
+    // The read-outs got their LED fonts; which size each gets is the panel's own test.
     EXPECT_EQ(o.txtSpeed->font().pointSize(), 50);
-    for (QLabel* label : {o.lblLatitude, o.txtLatitude, o.lblLongitude, o.txtLongitude})
-        EXPECT_EQ(label->font().pointSize(), 22) << label->objectName().toStdString();
-    for (QLabel* label : {o.lblDate, o.txtDate, o.lblTime, o.txtTime})
-        EXPECT_EQ(label->font().pointSize(), 20) << label->objectName().toStdString();
 
     // A second activation must not undo what happened since: the check mark and the slider stay.
     settings_.setUnitType(1);
