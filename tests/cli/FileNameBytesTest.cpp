@@ -2,11 +2,10 @@
 // printed about it must stay valid text.
 #include "OutputText.h"
 #include "ProgramRun.h"
+#include "TempDir.h"
 #include "Utf8.h"
 
 #include <gtest/gtest.h>
-
-#include <stdlib.h>
 
 #include <filesystem>
 
@@ -21,28 +20,10 @@ bool isValidUtf8(std::string_view text) {
     return true;
 }
 
-class ScratchFolder {
-public:
-    ScratchFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-cli-XXXXXX").string();
-        path_ = ::mkdtemp(pattern.data());
-    }
-    ~ScratchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
 std::string fixture(const std::string& name) { return std::string(DASHTRACK_FIXTURE_DIR) + "/" + name; }
 
 TEST(FileNameBytes, AMovieWhoseNameIsNotUtf8IsReadAndNamedAsValidText) {
-    ScratchFolder folder;
+    const TempDir folder;
     const std::string movie = (folder.path() / "clip\xFF\xFE.mov").string();
     std::filesystem::copy_file(fixture("index_fixed.mov"), movie);
     const std::string other = fixture("index_scaled.mov");  // two files, so the name is printed
@@ -70,7 +51,7 @@ TEST(FileNameBytes, AMovieWhoseNameIsNotUtf8IsReadAndNamedAsValidText) {
 }
 
 TEST(ProbeModule, WithoutItsModuleProbeFailsInOneLineAndExtractStillWorks) {
-    ScratchFolder folder;
+    const TempDir folder;
     const auto lonely = folder.path() / "dashtrack-gps";
     std::filesystem::copy_file(DASHTRACK_GPS_PATH, lonely);
     std::filesystem::permissions(lonely, std::filesystem::perms::owner_exec, std::filesystem::perm_options::add);

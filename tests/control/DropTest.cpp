@@ -138,31 +138,32 @@ TEST_F(DropTest, EnteringOffersACopyOnlyForAMovieAndACopyingSource) {
     EXPECT_TRUE(delegate_.drops.empty());
 }
 
-TEST_F(DropTest, ADropHandsOnTheMoviesInTheirOrder) {
-    const auto data = files({"/clips/movie-a.mov", "/clips/notes.txt", "/clips/movie-b.avi", "/clips/movie-a.mov"});
-    ASSERT_EQ(enter(*data), Qt::CopyAction);
-    drop(*data);
-    ASSERT_EQ(delegate_.drops.size(), 1u);
-    EXPECT_EQ(delegate_.drops[0].sender, view_.get());
-    EXPECT_EQ(delegate_.drops[0].movies, (Paths{"/clips/movie-a.mov", "/clips/movie-b.avi", "/clips/movie-a.mov"}));
-    EXPECT_TRUE(view_->isValidDragging()) << "the end of a drag leaves it set";
-}
-
-TEST_F(DropTest, ADropWithoutMoviesHandsOnNothingButStillTellsTheDelegate) {
-    const auto data = files({"/clips/notes.txt"});
-    EXPECT_EQ(enter(*data), Qt::IgnoreAction);
-    drop(*data);
-    ASSERT_EQ(delegate_.drops.size(), 1u);
-    EXPECT_TRUE(delegate_.drops[0].movies.empty());
-}
-
-TEST_F(DropTest, ASourceThatDoesNotCopyStillHandsItsMoviesOn) {
-    const auto data = files({"/clips/movie-a.mov"});
-    EXPECT_EQ(enter(*data, Qt::MoveAction), Qt::IgnoreAction);
-    EXPECT_EQ(move(*data, Qt::MoveAction), Qt::MoveAction) << "copy, made what the source allows";
-    drop(*data, Qt::MoveAction);
-    ASSERT_EQ(delegate_.drops.size(), 1u);
-    EXPECT_EQ(delegate_.drops[0].movies, (Paths{"/clips/movie-a.mov"}));
+TEST_F(DropTest, EveryDropTellsTheDelegateItsMoviesInOrder) {
+    struct Row {
+        const char* name;
+        std::vector<std::string> names;
+        Qt::DropActions allowed;
+        Paths movies;
+    };
+    const std::vector<Row> rows{
+        {"movies among text, one twice",
+         {"/clips/movie-a.mov", "/clips/notes.txt", "/clips/movie-b.avi", "/clips/movie-a.mov"},
+         Qt::CopyAction | Qt::MoveAction,
+         {"/clips/movie-a.mov", "/clips/movie-b.avi", "/clips/movie-a.mov"}},
+        {"no movie: still told", {"/clips/notes.txt"}, Qt::CopyAction, {}},
+        {"a source that does not copy", {"/clips/movie-a.mov"}, Qt::MoveAction, {"/clips/movie-a.mov"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        delegate_.drops.clear();
+        const auto data = files(row.names);
+        enter(*data, row.allowed);
+        drop(*data, row.allowed);
+        ASSERT_EQ(delegate_.drops.size(), 1u);
+        EXPECT_EQ(delegate_.drops[0].sender, view_.get());
+        EXPECT_EQ(delegate_.drops[0].movies, row.movies);
+        EXPECT_TRUE(view_->isValidDragging()) << "the end of a drag leaves it set";
+    }
 }
 
 TEST_F(DropTest, DraggingInAndOutAgainAddsNothing) {

@@ -5,6 +5,7 @@
 #include "GPSInfoPanel.h"
 #include "GPSUtils.h"
 #include "LEDFontManager.h"
+#include "ReadOutSample.h"
 
 #include <QFontInfo>
 #include <QLabel>
@@ -18,25 +19,6 @@
 #include <string>
 
 namespace {
-
-// 22.36714 N, 68.50430 E, 11.51 MPH on 12/31/16 at 20:05:09 (the scaled form keeps the time).
-GPSData sample() {
-    GPSDATA raw;
-    raw.rmcinfo.Year = 16;
-    raw.rmcinfo.Month = 12;
-    raw.rmcinfo.Day = 31;
-    raw.rmcinfo.Hour = 20;
-    raw.rmcinfo.Minute = 5;
-    raw.rmcinfo.Second = 9;
-    raw.rmcinfo.NSInd = 'N';
-    raw.rmcinfo.EWInd = 'E';
-    raw.rmcinfo.Latitude = 2231.5f;
-    raw.rmcinfo.Longitude = 6850.0f;
-    raw.rmcinfo.Speed = 10.0f;
-    GPSData data;
-    data.SetData(raw, false);
-    return data;
-}
 
 class GPSInfoPanelTest : public ::testing::Test {
 protected:
@@ -83,11 +65,11 @@ protected:
 
 TEST_F(GPSInfoPanelTest, ASampleFillsTheFiveReadOutsWithItsOwnTexts) {
     const GPSInfoPanel panel(outlets(), settings());
-    const GPSData data = sample();
+    const GPSData data = readOutSample();
     panel.show(data);
-    EXPECT_EQ(text("txtSpeed"), "11.51");
-    EXPECT_EQ(text("txtLatitude"), "22.36714");
-    EXPECT_EQ(text("txtLongitude"), "68.50430");
+    EXPECT_EQ(text("txtSpeed"), "62.14");
+    EXPECT_EQ(text("txtLatitude"), "22.50000");
+    EXPECT_EQ(text("txtLongitude"), "-114.25000");
     EXPECT_EQ(text("txtDate"), "12/31/16");
     EXPECT_EQ(text("txtTime"), "20:05:09");
     expectUntouchedExcept({"txtSpeed", "txtLatitude", "txtLongitude", "txtDate", "txtTime"});
@@ -95,7 +77,7 @@ TEST_F(GPSInfoPanelTest, ASampleFillsTheFiveReadOutsWithItsOwnTexts) {
 
 TEST_F(GPSInfoPanelTest, ResetWritesTheIdleTextsAndEmptiesTheMapText) {
     const GPSInfoPanel panel(outlets(), settings());
-    panel.show(sample());
+    panel.show(readOutSample());
     panel.reset();
     EXPECT_EQ(text("txtSpeed"), "00.00");
     EXPECT_EQ(text("txtLatitude"), "00.00000");
@@ -104,14 +86,6 @@ TEST_F(GPSInfoPanelTest, ResetWritesTheIdleTextsAndEmptiesTheMapText) {
     EXPECT_EQ(text("txtTime"), "00:00:00");
     EXPECT_EQ(text("txtMapView"), "");
     expectUntouchedExcept({"txtSpeed", "txtLatitude", "txtLongitude", "txtDate", "txtTime", "txtMapView"});
-}
-
-TEST_F(GPSInfoPanelTest, TheIdleTextsHaveTheShapesOfAnEmptySample) {
-    const GPSData empty;
-    EXPECT_EQ(GPSInfoPanel::idleSpeedText, empty.SpeedText());
-    EXPECT_EQ(GPSInfoPanel::idleCoordinateText, empty.LatitudeText());
-    EXPECT_EQ(GPSInfoPanel::idleDateText, empty.DateText());
-    EXPECT_EQ(GPSInfoPanel::idleTimeText, empty.TimeText());
 }
 
 TEST_F(GPSInfoPanelTest, RefreshingUnitsWritesTheUnitAndTheGivenSpeedOnly) {
@@ -133,7 +107,7 @@ TEST_F(GPSInfoPanelTest, RefreshingUnitsWritesTheUnitAndTheGivenSpeedOnly) {
 TEST_F(GPSInfoPanelTest, MissingAndVanishedLabelsAreSkipped) {
     const GPSInfoPanel unconnected(GPSInfoPanelLabels{}, settings());
     unconnected.setupFonts();
-    unconnected.show(sample());
+    unconnected.show(readOutSample());
     unconnected.reset();
     unconnected.refreshUnits("00.00");
 
@@ -141,7 +115,7 @@ TEST_F(GPSInfoPanelTest, MissingAndVanishedLabelsAreSkipped) {
     delete labels_["txtSpeed"];
     labels_.erase("txtSpeed");
     panel.setupFonts();
-    panel.show(sample());
+    panel.show(readOutSample());
     panel.reset();
     panel.refreshUnits("00.00");
     EXPECT_EQ(text("txtTime"), "00:00:00");

@@ -5,6 +5,7 @@
 #include "GPSInfoPanel.h"
 #include "GPSUtils.h"
 #include "LEDFontManager.h"
+#include "ReadOutSample.h"
 
 #include <QGridLayout>
 #include <QImage>
@@ -14,29 +15,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 
 namespace {
-
-GPSData sample() {
-    GPSDATA raw;
-    raw.rmcinfo.Year = 2016;
-    raw.rmcinfo.Month = 12;
-    raw.rmcinfo.Day = 31;
-    raw.rmcinfo.Hour = 20;
-    raw.rmcinfo.Minute = 5;
-    raw.rmcinfo.Second = 9;
-    // Fixed-point form: 1e-7 degree and cm/s; the west longitude shows the minus sign.
-    const int32_t latitude = 225000000;
-    const int32_t longitude = -1142500000;
-    const uint32_t speed = 2778;
-    std::memcpy(&raw.rmcinfo.Latitude, &latitude, 4);
-    std::memcpy(&raw.rmcinfo.Longitude, &longitude, 4);
-    std::memcpy(&raw.rmcinfo.Speed, &speed, 4);
-    GPSData data;
-    data.SetData(raw, false);
-    return data;
-}
 
 // Pixels that differ from the top-left corner's colour, the background.
 int inkedPixels(const QImage& image) {
@@ -75,7 +55,7 @@ TEST(ReadOutRenderTest, DrawsTheReadOutsInTheLEDFont) {
     const GPSInfoPanel panel(labels, GPSUtils::sharedUtils());
     panel.setupFonts();
     panel.refreshUnits("00.00");
-    panel.show(sample());
+    panel.show(readOutSample());
     panelWidget.adjustSize();
 
     const QImage image = panelWidget.grab().toImage();

@@ -34,30 +34,22 @@ TEST(BoxReaderTest, LeavesTheFileAtThePayloadOfAMatch) {
     EXPECT_EQ(file.position(), moov.location);
 }
 
-struct TypeCase {
-    const char* name;
-    Bytes movie;
-    std::string_view wanted;
-    bool found;
-};
-
-void PrintTo(const TypeCase& c, std::ostream* out) { *out << c.name; }
-
-class BoxTypeMatchTest : public testing::TestWithParam<TypeCase> {};
-
-TEST_P(BoxTypeMatchTest, MatchesTypesExactly) {
-    EXPECT_EQ(find(GetParam().movie, GetParam().wanted).found(), GetParam().found);
+TEST(BoxReaderTest, MatchesTypesExactly) {
+    const struct {
+        const char* name;
+        Bytes movie;
+        std::string_view wanted;
+        bool found;
+    } cases[] = {
+        {"exact", box("gps ", Bytes(4)), "gps ", true},
+        {"case matters", box("gps ", Bytes(4)), "GPS ", false},
+        {"a zero byte in the type never matches", box(std::string_view("gp\0 ", 4), Bytes(4)),
+         std::string_view("gp\0 ", 4), false},
+        {"a prefix is no match", box("gpsx", Bytes(4)), "gps", false},
+        {"an empty payload matches", box("free"), "free", true},
+    };
+    for (const auto& c : cases) EXPECT_EQ(find(c.movie, c.wanted).found(), c.found) << c.name;
 }
-
-INSTANTIATE_TEST_SUITE_P(Types, BoxTypeMatchTest,
-                         testing::Values(TypeCase{"Exact", box("gps ", Bytes(4)), "gps ", true},
-                                         TypeCase{"CaseMatters", box("gps ", Bytes(4)), "GPS ", false},
-                                         TypeCase{"ZeroByteInTypeNeverMatches",
-                                                  box(std::string_view("gp\0 ", 4), Bytes(4)),
-                                                  std::string_view("gp\0 ", 4), false},
-                                         TypeCase{"PrefixIsNoMatch", box("gpsx", Bytes(4)), "gps", false},
-                                         TypeCase{"EmptyPayloadMatches", box("free"), "free", true}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 Bytes rawBox(uint32_t size, std::string_view type) {
     Bytes out;
@@ -82,31 +74,20 @@ TEST(BoxReaderTest, TruncatedHeaderIsNotFound) {
     EXPECT_FALSE(find(movie, "moov").found());
 }
 
-struct FtypCase {
-    std::size_t size;
-    bool isMP4;
-};
-
-void PrintTo(const FtypCase& c, std::ostream* out) { *out << c.size << "-byte ftyp"; }
-
-class IsMP4Test : public testing::TestWithParam<FtypCase> {};
-
-TEST_P(IsMP4Test, OnlyA28ByteFtypIsTheMp4Form) {
-    const Bytes movie = concat({ftyp(GetParam().size), box("moov")});
-    MemoryFile file(movie);
-    const FileRange range = GPSDataLoader::loadBox("ftyp", file, 0);
-    file.seek(100);
-    EXPECT_EQ(GPSDataLoader::IsMP4(file, range), GetParam().isMP4);
-    EXPECT_EQ(file.position(), range.location);
-}
-
-INSTANTIATE_TEST_SUITE_P(Sizes, IsMP4Test,
-                         testing::Values(FtypCase{28, true}, FtypCase{20, false}, FtypCase{32, false},
-                                         FtypCase{24, false}, FtypCase{12, false}));
-
-TEST(BoxReaderTest, MissingFtypIsNotMp4) {
-    MemoryFile file(box("moov"));
-    EXPECT_FALSE(GPSDataLoader::IsMP4(file, GPSDataLoader::loadBox("ftyp", file, 0)));
+TEST(BoxReaderTest, OnlyA28ByteFtypIsTheMp4Form) {
+    for (const auto& [size, isMP4] : {std::pair<std::size_t, bool>{28, true}, {20, false}, {32, false}, {24, false},
+                                      {12, false}, {0, false}}) {
+        SCOPED_TRACE(size);
+        // Size 0: no ftyp at all.
+        const Bytes movie = size == 0 ? box("moov") : concat({ftyp(size), box("moov")});
+        MemoryFile file(movie);
+        const FileRange range = GPSDataLoader::loadBox("ftyp", file, 0);
+        file.seek(100);
+        EXPECT_EQ(GPSDataLoader::IsMP4(file, range), isMP4);
+        if (range.found()) {
+            EXPECT_EQ(file.position(), range.location);
+        }
+    }
 }
 
 TEST(GPSHeaderTest, NeedsTheTagAndAZeroLastByte) {

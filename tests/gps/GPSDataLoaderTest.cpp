@@ -142,17 +142,6 @@ INSTANTIATE_TEST_SUITE_P(Formats, SoundChunkLayoutTest,
                                          SoundFormat{2, 16, 48000, 196608}, SoundFormat{1, 16, 32768, 98304},
                                          SoundFormat{1, 8, 8000, 32768}));
 
-TEST(SoundChunkLayoutTest, WrongDistanceFindsNothing) {
-    const SoundFormat declared{1, 16, 22050, 32768};  // blocks written where 8000 Hz would put them
-    EXPECT_TRUE(load(soundChunkMovie(declared, {fixedBlock(10000000)})).samples.empty());
-}
-
-TEST(SoundChunkLayoutTest, Mp4FormHasNoSoundChunkFallback) {
-    const GPSTrack track = load(soundChunkMovie({1, 16, 8000, 32768}, {fixedBlock(10000000)}, 28));
-    EXPECT_TRUE(track.samples.empty());
-    EXPECT_EQ(track.layout, GPSLayout::None);
-}
-
 TEST(SoundChunkLayoutTest, ChunkTableAsFarAsItGoes) {
     const SoundFormat format{1, 16, 8000, 32768};
     const std::vector<Bytes> blocks{fixedBlock(10000000), fixedBlock(20000000)};
@@ -161,14 +150,23 @@ TEST(SoundChunkLayoutTest, ChunkTableAsFarAsItGoes) {
     EXPECT_EQ(load(soundChunkMovie(format, blocks, 20, 0x40000000)).samples.size(), 2u);
 }
 
+TEST(SoundChunkLayoutTest, MoviesWhereNoBlockFollowsASoundChunk) {
+    const struct {
+        const char* name;
+        Bytes movie;
+    } cases[] = {
+        // Blocks written where 8000 Hz would put them, in a movie that says 22050 Hz.
+        {"wrong distance", soundChunkMovie({1, 16, 22050, 32768}, {fixedBlock(10000000)})},
+        {"the MP4 form has no sound-chunk fallback", soundChunkMovie({1, 16, 8000, 32768}, {fixedBlock(10000000)}, 28)},
+        {"no sound track", concat({ftyp(20), box("moov", track(640, 480, Bytes(48), stco({}, 0)))})},
+    };
+    for (const auto& c : cases) EXPECT_TRUE(load(c.movie).samples.empty()) << c.name;
+    EXPECT_EQ(load(cases[1].movie).layout, GPSLayout::None) << "not even tried";
+}
+
 TEST(SoundChunkLayoutTest, TrackWithoutHeaderIsSkipped) {
     const GPSTrack track = load(soundChunkMovie({1, 16, 8000, 32768}, {fixedBlock(10000000)}, 20, {}, true));
     EXPECT_EQ(latitudes(track), (Texts{"01.00000"}));
-}
-
-TEST(SoundChunkLayoutTest, MovieWithoutSoundTrackHasNoTrack) {
-    const Bytes movie = concat({ftyp(20), box("moov", track(640, 480, Bytes(48), stco({}, 0)))});
-    EXPECT_TRUE(load(movie).samples.empty());
 }
 
 TEST(LoadGPSDataListTest, UnopenableFilesGiveAnEmptyTrackAndZero) {

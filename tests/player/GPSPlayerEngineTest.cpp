@@ -105,14 +105,6 @@ TEST_F(GPSPlayerEngineTest, SetMovieLoadsTheTrackBehindAnEmptySample) {
     EXPECT_EQ(engine_->maxSpeed(), 30.0f);
 }
 
-TEST_F(GPSPlayerEngineTest, FastTrackRaisesTheTopOfTheSpeedScale) {
-    load(kFastMovie, 4.0);
-    ASSERT_TRUE(engine_->gpsDataList().has_value());
-    EXPECT_EQ(engine_->gpsDataList()->size(), 5u);
-    EXPECT_NEAR(engine_->speedMax(), 120.0f, 0.01);
-    EXPECT_NEAR(engine_->maxSpeed(), 120.0f, 0.01);
-}
-
 TEST_F(GPSPlayerEngineTest, MovieWithoutGPSPlaysWithoutSamples) {
     const auto state = load(fixtureMovie("nogps.mov"));
     ASSERT_TRUE(engine_->gpsDataList().has_value()) << "empty, not absent";
@@ -179,7 +171,7 @@ TEST_F(GPSPlayerEngineTest, ReportsTheSampleOfEachWholeSecondAndProgressOnEveryT
     EXPECT_EQ(engine_->curIndex(), 10) << "beyond the track the last position stays";
     ASSERT_EQ(delegate_.progress.size(), std::size(times));
     EXPECT_DOUBLE_EQ(delegate_.progress.back(), 11.5 / 12.0);
-    EXPECT_NEAR(delegate_.sampleSpeeds.back(), 22.5f, 0.01);
+    EXPECT_NEAR(delegate_.sampleData.back().SpeedMPH(), 22.5f, 0.01);
     // In the unit the shared settings choose: the text of the last sample, whichever that is.
     EXPECT_EQ(engine_->currentSpeedText(), engine_->gpsDataList()->back().SpeedText());
 
@@ -284,19 +276,6 @@ TEST_F(GPSPlayerEngineTest, ConstructionWritesTheStoredVolumeBack) {
     ASSERT_FALSE(fresh.utils().envInfo().realValue("Volume").has_value());
     GPSPlayerEngine engine(factory_, nullptr, std::make_unique<ManualUpdateTimer>(), fresh.utils());
     EXPECT_EQ(fresh.utils().envInfo().realValue("Volume"), 0.0);
-}
-
-TEST_F(GPSPlayerEngineTest, SetVolumeStoresEveryVolumeAndRemembersThoseAboveZero) {
-    const struct {
-        double set;
-        float stored;
-        double restored;
-    } steps[] = {{0.3, 0.3f, 0.3}, {0.0, 0.0f, 0.3}, {0.8, 0.8f, 0.8}};
-    for (const auto& s : steps) {
-        engine_->setVolume(s.set);  // no player yet: the settings still get it
-        EXPECT_EQ(settings_.utils().volume(), s.stored) << s.set;
-        EXPECT_DOUBLE_EQ(engine_->volume(), s.restored) << s.set;
-    }
 }
 
 TEST_F(GPSPlayerEngineTest, VolumeZeroSilencesAndUnmutingRestores) {

@@ -43,15 +43,16 @@ public:
 };
 
 struct RecordingDelegate final : GPSPlayerViewDelegate {
-    std::vector<uint64_t> samples;
-    std::vector<float> sampleSpeeds;
+    std::vector<uint64_t> samples;  // the positions reported, and beside them what they held
+    std::vector<GPSData> sampleData;
     std::vector<double> progress;
     std::vector<bool> statuses;
     int completions = 0;
 
+    bool playing() const { return !statuses.empty() && statuses.back(); }
     void UpdatedGPSInfo(GPSPlayerEngine&, const GPSData& data, uint64_t index) override {
         samples.push_back(index);
-        sampleSpeeds.push_back(data.SpeedMPH());
+        sampleData.push_back(data);
     }
     void UpdateDuration(GPSPlayerEngine&, double value) override { progress.push_back(value); }
     void UpdatedPlayingStatus(GPSPlayerEngine&, bool playing) override { statuses.push_back(playing); }

@@ -107,11 +107,9 @@ TEST_F(SnapshotTest, FrameAtThePlayersTimeMatchesTheFfmpegProgram) {
     load(k720p, 1.0 / 3.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.333)), 2.0);
 
-    // Outside the movie: its last frame (from 599/30 s) and its first.
+    // Past the end: its last frame (from 599/30 s). Before the start is a case of every container.
     load(k720p, 25.0);
     EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(19.96)), 2.0);
-    load(k720p, -3.0);
-    EXPECT_LT(meanAbsoluteDifference(snapshotImage(), ffmpegFrame(0.0)), 2.0);
 }
 
 // Every container: those with an index of keyframes, and MPEG-TS and MPEG-PS, which have none, so

@@ -125,17 +125,6 @@ TEST_F(SettingsWrites, UnchangedValuesWriteNothing) {
     EXPECT_EQ(writes.count(), 1);
 }
 
-TEST_F(SettingsWrites, UnreadableFileIsNeverWritten) {
-    writeFile(user, "<plist><dict><key>Volume</key>");  // cut short
-    CountingWrites writes;
-    GPSUtils utils(location(), nullptr, writes.function());
-    utils.setVolume(0.5f);
-    utils.setUnitType(1);
-    utils.flush();
-    EXPECT_EQ(writes.count(), 0);
-    EXPECT_EQ(readFile(user), "<plist><dict><key>Volume</key>");
-}
-
 TEST_F(SettingsWrites, FileIsReplacedWholeByRename) {
     writeFile(user, plistDictionary("<key>UnitType</key><integer>0</integer><key>Player</key>"
                                     "<dict><key>Skin</key><string>night</string></dict>"));

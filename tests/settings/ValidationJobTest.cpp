@@ -1,11 +1,10 @@
 #include "FFmpegVideoTrackProbe.h"
+#include "GatedProbe.h"
 #include "GPSUtils.h"
 #include "ValidationJob.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <future>
 
 namespace {
 
@@ -29,19 +28,6 @@ TEST(ValidationJob, GivesTheAnswerOfValidURLsWithProgressUpToTotal) {
     ASSERT_EQ(progress.size(), files.size());
     for (std::size_t i = 0; i < progress.size(); ++i) EXPECT_EQ(progress[i], std::make_pair(i + 1, files.size()));
 }
-
-// Says yes to everything, but holds the second file until the test lets it go.
-struct GatedProbe : VideoTrackProbe {
-    bool hasVideoTrack(const std::filesystem::path&) const override {
-        if (++calls == 2) {
-            reachedSecond.set_value();
-            release.get_future().wait();
-        }
-        return true;
-    }
-    mutable std::atomic<int> calls = 0;
-    mutable std::promise<void> reachedSecond, release;
-};
 
 TEST(ValidationJob, CancelStopsBeforeTheNextFile) {
     const auto probe = std::make_shared<GatedProbe>();

@@ -88,12 +88,3 @@ TEST(RecordEncoder, YearAndSignsAreWrittenAsEachFormExpects) {
         EXPECT_EQ(f.EWInd, 'W');
     }
 }
-
-TEST(RecordEncoder, Mp4FormClockCrossesIntoTheNextYearWhenShown) {
-    const TimeZoneGuard utc("UTC");
-    const RouteSample sample{toClockSeconds({2016, 12, 31, 20, 5, 9}), 22.5, 114.25, 30.0, 0.0};
-    GPSData data;
-    data.SetData(makeRawRecord(sample, GPSRecordForm::MP4), true);
-    EXPECT_EQ(data.DateText(), "01/01/17");
-    EXPECT_EQ(data.TimeText(), "03:05:09");
-}

@@ -1,5 +1,5 @@
 #pragma once
-// A fresh directory for one test, removed with everything in it afterwards.
+// A fresh directory for one test, removed with everything in it afterwards (also used by the cli tests).
 
 #include <cstdlib>
 #include <filesystem>
@@ -8,7 +8,7 @@
 class TempDir {
 public:
     TempDir() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-samplegen-XXXXXX").string();
+        std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-test-XXXXXX").string();
         if (mkdtemp(pattern.data()) != nullptr) path_ = pattern;
     }
     ~TempDir() {

@@ -208,38 +208,35 @@ TEST_F(RouteTrackerTest, CutBackBeforeEveryPointEmptiesTheRoute) {
     EXPECT_EQ(map.log.size(), 3u) << "an intake into an empty route logs nothing";
 }
 
-struct GapCase {
-    const char* name;
-    std::vector<int> seconds;  // of route points taken at 1, 4, 7, ...
-    std::vector<std::vector<int>> lines;
-};
-
-void PrintTo(const GapCase& c, std::ostream* out) { *out << c.name; }
-
-class RouteGapTest : public RouteTrackerTest, public testing::WithParamInterface<GapCase> {};
-
-TEST_P(RouteGapTest, SplitsWhereRecordingTimeJumps) {
-    const GapCase& c = GetParam();
-    int64_t index = 1;
-    for (int second : c.seconds) {
-        tracker.showCarLocation(sampleAt(second), index, map);
-        index += 3;
+TEST_F(RouteTrackerTest, SplitsWhereRecordingTimeJumps) {
+    const struct {
+        const char* name;
+        std::vector<int> seconds;  // of route points taken at 1, 4, 7, ...
+        std::vector<std::vector<int>> lines;
+    } cases[] = {
+        {"eight seconds join", {0, 8, 16}, {{0, 8, 16}}},
+        {"nine seconds split", {0, 9, 17}, {{0}, {9, 17}}},
+        {"equal times append", {5, 5, 5}, {{5, 5, 5}}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        RouteTracker fresh;
+        RecordingMap freshMap;
+        int64_t index = 1;
+        for (int second : c.seconds) {
+            fresh.showCarLocation(sampleAt(second), index, freshMap);
+            index += 3;
+        }
+        Lines expected;
+        for (const auto& line : c.lines) {
+            expected.emplace_back();
+            for (int s : line) expected.back().push_back(coordinateOf(sampleAt(s)));
+        }
+        EXPECT_EQ(drawnLines(fresh), expected);
+        const auto& drawn = fresh.polylineOverlays();
+        EXPECT_EQ(freshMap.onMap, std::set<std::shared_ptr<const Polyline>>(drawn.begin(), drawn.end()));
     }
-    std::vector<std::vector<Coordinate>> expected;
-    for (const auto& line : c.lines) {
-        expected.emplace_back();
-        for (int s : line) expected.back().push_back(coordinateOf(sampleAt(s)));
-    }
-    EXPECT_EQ(drawnLines(tracker), expected);
-    expectMapShowsTheRoute();
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Gaps, RouteGapTest,
-    testing::Values(GapCase{"EightSecondsJoin", {0, 8, 16}, {{0, 8, 16}}},
-                    GapCase{"NineSecondsSplit", {0, 9, 17}, {{0}, {9, 17}}},
-                    GapCase{"EqualTimesAppend", {5, 5, 5}, {{5, 5, 5}}}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(RouteTrackerTest, UnreadableDatesNeverCutOrSplit) {
     // Month 13: every timestamp is 0, so a later sample reported earlier is still appended.

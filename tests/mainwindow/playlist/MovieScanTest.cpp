@@ -1,3 +1,4 @@
+#include "GatedProbe.h"
 #include "MovieCandidates.h"
 #include "MovieScan.h"
 #include "PlaylistTestSupport.h"
@@ -9,7 +10,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <future>
 #include <optional>
 #include <set>
 
@@ -100,31 +100,18 @@ TEST(MovieScan, DeliversTheValidMoviesInCandidateOrderOnTheOwnerThreadThenGoes) 
     EXPECT_EQ(commandLine.movies, Files{folder.path() / "b.MOV"});
 }
 
-// Says yes, but holds the second file until released: the first one's progress is posted by then.
-struct GatedProbe : VideoTrackProbe {
-    bool hasVideoTrack(const std::filesystem::path&) const override {
-        if (++calls == 2) {
-            reached.set_value();
-            released.get_future().wait();
-        }
-        return true;
-    }
-    mutable std::atomic<int> calls = 0;
-    mutable std::promise<void> reached, released;
-};
-
 TEST(MovieScan, AScanWhoseWindowGoesFirstNeverDelivers) {
     const ScratchFolder folder;
     for (const char* name : {"a.mp4", "b.mp4", "c.mp4"}) folder.write(name);
     const auto probe = std::make_shared<GatedProbe>();
-    auto reached = probe->reached.get_future();
+    auto reached = probe->reachedSecond.get_future();
     auto window = std::make_unique<QObject>();
     QPointer<MovieScan> scan = MovieScan::openPanel(probe, folder.path() / "a.mp4", window.get());
     Outcome outcome(scan);
     reached.wait();
     // The probe is let go as the window is destroyed, just before its children: the worker may
     // finish and post its result or see the cancel first. Nothing posted may reach the window.
-    QObject::connect(window.get(), &QObject::destroyed, [&] { probe->released.set_value(); });
+    QObject::connect(window.get(), &QObject::destroyed, [&] { probe->release.set_value(); });
     window.reset();
     EXPECT_TRUE(scan.isNull());
     QCoreApplication::sendPostedEvents();

@@ -42,14 +42,6 @@ TEST(TileNumbers, GridAndMBTilesRows) {
     }
 }
 
-TEST(TileSources, TheBundledListHasOpenStreetMap) {
-    const std::optional<TileSource> osm = findTileSource(QStringLiteral("osm"));
-    ASSERT_TRUE(osm);
-    EXPECT_EQ(osm->urlTemplate, QStringLiteral("https://tile.openstreetmap.org/{z}/{x}/{y}.png"));
-    EXPECT_EQ(std::tuple(osm->minZoom, osm->maxZoom, osm->tileSize), std::tuple(0, 19, 256));
-    EXPECT_EQ(osm->attribution, QStringLiteral("© OpenStreetMap contributors"));
-}
-
 TEST(TileSources, EntriesThatMakeNoSenseAreLeftOut) {
     const struct {
         const char* json;

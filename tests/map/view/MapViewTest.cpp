@@ -78,16 +78,19 @@ protected:
     MapViewTest() {
         view.resize(400, 300);
         view.setTileProvider(&provider);
+        view.setDelegate(&delegate);
     }
+    // Where the map now puts coordinates.
+    MapPainter painter() const { return MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256); }
+
     FakeTileProvider provider;
+    RedLines delegate;
     MapView view;
 };
 
 }  // namespace
 
 TEST_F(MapViewTest, DrawsALineWhereItsPointsProject) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionMakeWithDistance({48.8566, 2.3522}, 1000, 1000), false);
     // A north-south line through the centre, and a point east of it.
     view.addOverlay(line({{48.8536, 2.3522}, {48.8596, 2.3522}}));
@@ -99,12 +102,13 @@ TEST_F(MapViewTest, DrawsALineWhereItsPointsProject) {
     EXPECT_TRUE(isRed(image.pixelColor(200, 120)));
     EXPECT_FALSE(isRed(image.pixelColor(206, 150)));  // 4 points wide: 2 either side
     EXPECT_FALSE(isRed(image.pixelColor(194, 150)));
-    const QPointF dot = MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256).toWidget({48.8566, 2.3552});
+    const QPointF dot = painter().toWidget({48.8566, 2.3552});
     EXPECT_GT(dot.x(), 230);
     EXPECT_TRUE(isRed(image.pixelColor(dot.toPoint())));
 }
 
 TEST_F(MapViewTest, LinesWithoutARendererAreBlue) {
+    view.setDelegate(nullptr);
     view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
     view.addOverlay(line({{-0.003, 0}, {0.003, 0}}));
     const QColor c = paint(view).pixelColor(200, 150);
@@ -113,8 +117,6 @@ TEST_F(MapViewTest, LinesWithoutARendererAreBlue) {
 }
 
 TEST_F(MapViewTest, RemovesOnlyTheListedOverlays) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
     const auto west = line({{-0.003, -0.002}, {0.003, -0.002}});
     const auto middle = line({{-0.003, 0}, {0.003, 0}});
@@ -123,7 +125,7 @@ TEST_F(MapViewTest, RemovesOnlyTheListedOverlays) {
     view.removeOverlays({west, east, line({{0, 0}})});
     EXPECT_EQ(view.overlayCount(), 1u);
 
-    MapPainter frame(view.centerCoordinate(), view.zoomLevel(), view.size(), 256);
+    const MapPainter frame = painter();
     const QImage image = paint(view);
     EXPECT_TRUE(isRed(image.pixelColor(frame.toWidget({0, 0}).toPoint())));
     EXPECT_FALSE(isRed(image.pixelColor(frame.toWidget({0, -0.002}).toPoint())));
@@ -224,13 +226,11 @@ TEST(MapView, ARegionSetBeforeTheWidgetHasASizeIsFittedLater) {
 TEST_F(MapViewTest, ZoomingKeepsThePointUnderThePointer) {
     view.setRegion(regionMakeWithDistance({48.8566, 2.3522}, 2000, 2000), false);
     const QPointF pointer(80, 60);
-    const Coordinate before =
-        MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256).toCoordinate(pointer);
+    const Coordinate before = painter().toCoordinate(pointer);
     const double zoom = view.zoomLevel();
     view.zoomAbout(pointer, 1.5, false);
     EXPECT_NEAR(view.zoomLevel(), zoom + 1.5, 1e-9);
-    const Coordinate after =
-        MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256).toCoordinate(pointer);
+    const Coordinate after = painter().toCoordinate(pointer);
     EXPECT_NEAR(after.latitude, before.latitude, 1e-9);
     EXPECT_NEAR(after.longitude, before.longitude, 1e-9);
     view.zoomAbout(pointer, 100, false);
@@ -252,8 +252,6 @@ TEST_F(MapViewTest, DraggingPansTheMap) {
 }
 
 TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
     auto car = std::make_shared<MapAnnotation>(MapAnnotation{{0.001, 0.001}, QStringLiteral("Car")});
     auto own = new QLabel(QStringLiteral("X"));
@@ -262,7 +260,7 @@ TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
     view.addAnnotation(car);
     ASSERT_EQ(view.viewForAnnotation(car), own);
     EXPECT_EQ(own->parentWidget(), &view);
-    const QPointF at = MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256).toWidget(car->coordinate);
+    const QPointF at = painter().toWidget(car->coordinate);
     EXPECT_NEAR(own->geometry().center().x() + 0.5, at.x(), 1.0);
     EXPECT_NEAR(own->geometry().center().y() + 0.5, at.y(), 1.0);
 
@@ -333,10 +331,8 @@ TEST(MapView, ForgetsAProviderThatIsDestroyed) {
 }
 
 TEST_F(MapViewTest, DrawsTheStretchesOfALineThatCrossTheFrame) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionAtZoom({0, 0}, 10), false);
-    const MapPainter frame(view.centerCoordinate(), view.zoomLevel(), view.size(), 256);
+    const MapPainter frame = painter();
     const auto inFrame = [&](QPointF p) { return frame.toCoordinate(p); };
     struct Case {
         const char* name;
@@ -396,8 +392,6 @@ TEST_F(MapViewTest, AnAnimatedRegionEasesToItsEnd) {
 }
 
 TEST_F(MapViewTest, PointsWithoutAPlaceAreLeftOut) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
     view.addOverlay(line({{-0.003, 0}, {NAN, 0}, {0.003, 0}}));
     view.addOverlay(line({{NAN, NAN}}));
@@ -420,12 +414,9 @@ TEST_F(MapViewTest, PointsWithoutAPlaceAreLeftOut) {
 }
 
 TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
-    RedLines delegate;
-    view.setDelegate(&delegate);
     view.setRegion(regionAtZoom({0, 0}, 12), false);
-    const auto frame = [&] { return MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256); };
     // An upright line through the centre, long enough to leave the frame at both ends.
-    view.addOverlay(line({frame().toCoordinate({200, -400}), frame().toCoordinate({200, 700})}));
+    view.addOverlay(line({painter().toCoordinate({200, -400}), painter().toCoordinate({200, 700})}));
     ASSERT_TRUE(isRed(paint(view).pixelColor(200, 150)));
 
     struct Step {
@@ -435,12 +426,12 @@ TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
     };
     const Step steps[] = {{"a little east", 50, 0}, {"back west", -120, 0}, {"far beyond the frame", 900, 0},
                           {"zoomed in", 0, 1}, {"zoomed out", 0, -2.5}};
-    const Coordinate lineAt = frame().toCoordinate({200, 150});
+    const Coordinate lineAt = painter().toCoordinate({200, 150});
     for (const Step& step : steps) {
-        const QPointF centre = frame().toWidget(view.centerCoordinate());
-        view.setCenterCoordinate(frame().toCoordinate(centre + QPointF(step.panX, 0)));
+        const QPointF centre = painter().toWidget(view.centerCoordinate());
+        view.setCenterCoordinate(painter().toCoordinate(centre + QPointF(step.panX, 0)));
         if (step.zoomSteps != 0) view.zoomAbout({200, 150}, step.zoomSteps, false);
-        const QPointF expected = frame().toWidget(lineAt);
+        const QPointF expected = painter().toWidget(lineAt);
         const QImage image = paint(view);
         const QPoint at(int(std::lround(expected.x())), 150);
         if (expected.x() < 0 || expected.x() >= 400) {

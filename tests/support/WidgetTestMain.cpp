@@ -1,5 +1,6 @@
-// The read-outs' tests need a QApplication for their labels, and never a screen. The shared
-// settings (which the samples ask for their unit) come from an empty folder, never the user's.
+// The widget tests' main: a QApplication on no screen, numbers printed with a point, and the
+// shared settings (read by samples for their unit, by the player for its volume) in an empty
+// folder, never the user's own.
 
 #include "GPSUtils.h"
 
@@ -19,7 +20,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     ::testing::InitGoogleTest(&argc, argv);
     const int status = RUN_ALL_TESTS();
-    // The unit changes are written in the background: done before the folder goes.
+    // Settings are written in the background: done before their folder goes.
     GPSUtils::sharedUtils().flush();
     return status;
 }
