@@ -1,0 +1,9 @@
+#pragma once
+// The application icon drawn at one square size, for the window's icon and the installed PNGs.
+
+#include <QImage>
+
+class QSvgRenderer;
+
+// Transparent outside the drawing; a null image when the renderer holds no valid drawing.
+QImage iconImage(QSvgRenderer& renderer, int size);
