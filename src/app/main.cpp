@@ -1,6 +1,7 @@
 // dashtrack: the main window, with the movies named on the command line.
 
 #include "AppDelegate.h"
+#include "ApplicationIcon.h"
 #include "BenchProbe.h"
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSPlayerView.h"
@@ -17,6 +18,9 @@
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Dashtrack"));
+    QApplication::setWindowIcon(applicationIcon());
+    // Desktops match the window to dashtrack.desktop (its icon, its name in the task switcher).
+    QGuiApplication::setDesktopFileName(QStringLiteral("dashtrack"));
     // libmpv needs C number formatting; QApplication has just set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
     GPSUtils& settings = GPSUtils::sharedUtils();

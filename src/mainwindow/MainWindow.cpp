@@ -1,5 +1,6 @@
 #include "MainWindow.h"
 
+#include "AboutView.h"
 #include "GPSButton.h"
 #include "GPSControlView.h"
 #include "GPSPlayerView.h"
@@ -16,12 +17,14 @@
 
 namespace {
 
-MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui) {
+MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& about) {
     return {
         .window = &window,
         .player = ui.player,
         .playListView = ui.playListView,
         .mapView = ui.mapView,
+        .aboutView = &about,
+        .content = ui.controlView,
         .txtTitle = ui.txtTitle,
         .durationSlider = ui.durationSlider,
         .volumeSlider = ui.volumeSlider,
@@ -83,7 +86,10 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
     ui_->btPause->hide();
     ui_->btMute->hide();
 
-    controller_->setOutlets(outletsOf(*this, *ui_));
+    // Hidden until Help, About; the key-handling view it covers owns it.
+    auto* about = new AboutView(settings, ui_->controlView);
+    connect(about, &AboutView::hideRequested, controller_.get(), [this] { controller_->OnHideAbout(); });
+    controller_->setOutlets(outletsOf(*this, *ui_, *about));
     ui_->player->setControlView(ui_->controlView);
     ui_->playListView->setControlView(ui_->controlView);
     ui_->controlView->setDelegate(controller_.get());

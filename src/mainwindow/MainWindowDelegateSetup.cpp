@@ -2,6 +2,7 @@
 
 #include "MainWindowDelegate.h"
 
+#include "AboutView.h"
 #include "GPSInfoPanel.h"
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
@@ -14,7 +15,6 @@
 #include <QFont>
 #include <QLabel>
 #include <QMainWindow>
-#include <QMessageBox>
 #include <QPointer>
 #include <QSlider>
 
@@ -69,25 +69,11 @@ void MainWindowDelegate::OnUnitChanged(QAction* sender) {
 }
 
 void MainWindowDelegate::OnShowAbout() {
-    QWidget* parent = outlets_.window;
-    auto* about = new QMessageBox(QMessageBox::NoIcon, QStringLiteral("About Dashtrack"),
-                                  QStringLiteral("<h3>Dashtrack %1</h3>"
-                                                 "<p>Plays dash camera movies with the speed, position, date "
-                                                 "and time they recorded.</p>"
-                                                 "<p>Built with Qt (LGPL 3), libmpv (LGPL 2.1 or later), FFmpeg "
-                                                 "(LGPL 2.1 or later) and libplist (LGPL 2.1 or later). The LED "
-                                                 "font is made from DSEG (SIL Open Font License 1.1).</p>")
-                                      .arg(QStringLiteral(DASHTRACK_VERSION)),
-                                  QMessageBox::Close, parent);
-    about->setObjectName(QStringLiteral("aboutView"));
-    about->setAttribute(Qt::WA_DeleteOnClose);
-    // Window-modal but not blocking: the movie goes on playing behind it.
-    about->open();
+    if (outlets_.aboutView != nullptr && outlets_.content != nullptr) outlets_.aboutView->ShowAbout(true, outlets_.content);
 }
 
 void MainWindowDelegate::OnHideAbout() {
-    if (outlets_.window == nullptr) return;
-    if (auto* about = outlets_.window->findChild<QMessageBox*>(QStringLiteral("aboutView"))) about->close();
+    if (outlets_.aboutView != nullptr && outlets_.content != nullptr) outlets_.aboutView->ShowAbout(false, outlets_.content);
 }
 
 void MainWindowDelegate::OnPreference(QObject* /*sender*/) {}

@@ -2,6 +2,7 @@
 // The main window's items that the controller works with, by the names the window's interface
 // description gives them. Non-owning: the window owns them all; null means not connected.
 
+class AboutView;
 class GPSPlayerView;
 class GPSTableView;
 class MapView;
@@ -17,6 +18,9 @@ struct MainWindowOutlets {
     GPSPlayerView* player = nullptr;
     GPSTableView* playListView = nullptr;
     MapView* mapView = nullptr;
+    // Shown over `content` (the window's central widget) by OnShowAbout.
+    AboutView* aboutView = nullptr;
+    QWidget* content = nullptr;
 
     QLabel* txtTitle = nullptr;
     // Both run from 0 to 1 through sliderFraction / setSliderFraction.

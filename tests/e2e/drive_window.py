@@ -29,6 +29,9 @@ DEADLINE = 20.0  # seconds a condition may take to come true, generous for a bus
 SCREEN = (1920, 1080)
 SPEED_TOLERANCE = 0.015  # the texts have two decimals; neighbouring seconds differ by 0.1 or more
 KNOTS_FACTOR = 1.852  # shown KM/H = shown MPH x this
+# The window's background, as 8-bit hex, while the player is in front and while it is not.
+ACTIVE_BACKGROUND = "17A1FF"
+INACTIVE_BACKGROUND = "E6E6E6"
 
 
 class Failure(Exception):
@@ -383,10 +386,55 @@ class Session:
         self.shoot("full-screen-left")
         print("e2e: Ctrl+F goes full screen, Escape comes back")
 
+    def title_strip_colour(self):
+        """The colour a few pixels into the window's top-left corner: its title strip's background."""
+        x, y, _, _ = self.window.visible_windows()[self.window.window_id]
+        pixel = run("import", "-window", "root", "-crop", f"1x1+{x + 6}+{y + 6}", "-depth", "8", "txt:-")
+        found = re.search(r"#([0-9A-Fa-f]{6})", pixel)
+        return found.group(1).upper() if found else pixel
+
+    def active_and_inactive(self):
+        wait_for("the title strip blue while the player is in front",
+                 lambda: ((c := self.title_strip_colour()) == ACTIVE_BACKGROUND, c))
+        self.shoot("active-playing")
+        other = subprocess.Popen(["xmessage", "-geometry", "+1500+950", "another application"],
+                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            other_id = wait_for("another application's window",
+                                lambda: (bool(ids := subprocess.run(
+                                    ["xdotool", "search", "--onlyvisible", "--classname", "^xmessage$"],
+                                    capture_output=True, text=True).stdout.split()), ids))[0]
+            run("xdotool", "windowfocus", "--sync", other_id)
+            wait_for("the title strip grey while another application is in front",
+                     lambda: ((c := self.title_strip_colour()) == INACTIVE_BACKGROUND, c))
+            self.shoot("inactive-playing")
+        finally:
+            other.terminate()
+            other.wait()
+        run("xdotool", "windowfocus", "--sync", self.window.window_id)
+        wait_for("the title strip blue again", lambda: ((c := self.title_strip_colour()) == ACTIVE_BACKGROUND, c))
+        print("e2e: blue in front, grey behind another application")
+
+    def about_over_the_window(self):
+        self.window.choose_menu_item("About Dashtrack")
+        about = self.window.named("About Dashtrack")
+        wait_for("the About view shown", lambda: (about.getState().contains(pyatspi.STATE_SHOWING), "hidden"))
+        # The fade runs for about two thirds of a second.
+        time.sleep(1.0)
+        self.shoot("about")
+        if not self.playing():
+            raise Failure(f"expected the movie to play on behind the About view; {self.buttons()}")
+        self.window.press("Close About")
+        wait_for("the About view gone after its fade",
+                 lambda: (not (about.clear_cache() or about.getState().contains(pyatspi.STATE_SHOWING)), "shown"))
+        self.shoot("about-closed")
+        print("e2e: the About view fades in over the playing movie and away again")
+
     def run(self):
         self.window = Window(self.process)
         for step in (self.first_clip_plays, self.space_pauses_and_plays, self.right_steps_ten_seconds,
-                     self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back):
+                     self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back,
+                     self.active_and_inactive, self.about_over_the_window):
             try:
                 step()
             except Failure:

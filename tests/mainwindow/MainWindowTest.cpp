@@ -1,6 +1,7 @@
 // The main window as built from its interface description: its items, names, menus, connections
 // to the controller, first activation and unit menu, under the offscreen platform.
 
+#include "AboutView.h"
 #include "GPSControlView.h"
 #include "GPSPlayControl.h"
 #include "GPSPlayerView.h"
@@ -16,9 +17,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QPushButton>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -99,8 +101,11 @@ TEST_F(MainWindowTest, KeysAndDropsOfTheWholeWindowReachTheKeyHandlingView) {
     EXPECT_EQ(o.playListView->controlView(), controlView);
     EXPECT_TRUE(controlView->isAncestorOf(o.player));
     EXPECT_TRUE(controlView->isAncestorOf(o.playListView));
-    // A focused button or slider would keep Space and the arrows from the key-handling view.
+    // A focused button or slider would keep Space and the arrows from the key-handling view. The
+    // About view's Close is the exception: while it is shown, the keys are its own.
+    const auto* about = window_.findChild<AboutView*>();
     for (QWidget* widget : controlView->findChildren<QWidget*>()) {
+        if (about->isAncestorOf(widget)) continue;
         if (qobject_cast<QAbstractButton*>(widget) || qobject_cast<QSlider*>(widget)) {
             EXPECT_EQ(widget->focusPolicy(), Qt::NoFocus) << widget->objectName().toStdString();
         }
@@ -217,15 +222,19 @@ TEST_F(MainWindowTest, OnlyTheFirstActivationSetsTheControlsUp) {
     EXPECT_FALSE(o.unitKMH->isChecked());
 }
 
-TEST_F(MainWindowTest, AboutOpensWithoutBlockingAndHidesAgain) {
+TEST_F(MainWindowTest, AboutFadesInOverTheContentAndAwayAgain) {
     window_.show();
-    // Returns at once: a blocking dialog would hang this test (and stop the window's events).
     action("actionAbout")->trigger();
-    auto* about = window_.findChild<QMessageBox*>(QStringLiteral("aboutView"));
+    auto* about = window_.findChild<AboutView*>();
     ASSERT_NE(about, nullptr);
+    EXPECT_TRUE(settings_.statusIsModal());
     EXPECT_TRUE(about->isVisible());
-    EXPECT_TRUE(about->text().contains(QStringLiteral("Dashtrack")));
-    window_.controller().OnHideAbout();
+    EXPECT_EQ(about->geometry(), window_.centralWidget()->rect());
+
+    // Its Close button goes through the controller, which starts the fade out.
+    about->closeButton().click();
+    EXPECT_FALSE(settings_.statusIsModal());
+    for (int step = 0; step < 1000 && about->isFading(); ++step) QTest::qWait(5);
     EXPECT_FALSE(about->isVisible());
 }
 

@@ -12,7 +12,7 @@
 #include <algorithm>
 
 #ifndef DASHTRACK_VERSION
-#define DASHTRACK_VERSION "unknown"
+#error "DASHTRACK_VERSION must be defined by the build"
 #endif
 
 AboutView::AboutView(GPSUtils& utils, QWidget* parent)
