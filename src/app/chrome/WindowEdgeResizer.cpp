@@ -16,9 +16,8 @@ bool WindowEdgeResizer::eventFilter(QObject* watched, QEvent* event) {
     if (watched != &window_) return false;
     const bool resizable = !window_.isMaximized() && !window_.isFullScreen();
     switch (event->type()) {
-    case QEvent::MouseMove:
-    case QEvent::HoverMove: {
-        const auto* mouse = static_cast<QSinglePointEvent*>(event);
+    case QEvent::MouseMove: {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
         const Qt::Edges edges =
             resizable ? resizeEdgesAt(mouse->position().toPoint(), window_.size(), kBorder) : Qt::Edges();
         if (edges == Qt::Edges())

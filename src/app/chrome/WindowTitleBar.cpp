@@ -1,6 +1,7 @@
 #include "WindowTitleBar.h"
 
 #include "TitleBarButton.h"
+#include "WindowEdgeResizer.h"
 #include "WindowEdges.h"
 
 #include <QApplication>
@@ -72,6 +73,10 @@ void WindowTitleBar::placeOnWindow() {
 }
 
 void WindowTitleBar::followWindowState() {
+    // The strip's height stays free above the content; the border band resizes a normal window,
+    // while a maximised one runs to the screen's edges.
+    const int border = window_.isMaximized() ? 0 : WindowEdgeResizer::kBorder;
+    window_.setContentsMargins(border, kHeight, border, border);
     maximise_->setGlyph(window_.isMaximized() ? TitleBarButton::Glyph::Restore : TitleBarButton::Glyph::Maximise);
 }
 

@@ -23,7 +23,8 @@ public:
     // The band along the strip's top edge that resizes the window rather than moving it.
     static constexpr int kResizeBand = 4;
 
-    // Places itself along the top of `window`, follows its size, title and state.
+    // Places itself along the top of `window`, keeps the window's content below it and inside the
+    // resize border, and follows the window's size, title and state.
     explicit WindowTitleBar(QWidget& window);
 
     QLabel& titleLabel() const { return *title_; }

@@ -1,5 +1,5 @@
 #pragma once
-// The application icon drawn at one square size, for the window's icon and the installed PNGs.
+// The application icon drawn at one square size, for the installed PNGs.
 
 #include <QImage>
 
