@@ -1,5 +1,4 @@
 #include "GPSButton.h"
-#include "SkinPixels.h"
 #include "SkinTestSupport.h"
 
 #include <QDir>

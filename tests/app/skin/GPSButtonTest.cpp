@@ -1,6 +1,5 @@
 #include "GPSButton.h"
 #include "GPSUtils.h"
-#include "SkinPixels.h"
 #include "SkinTestSupport.h"
 
 #include <QApplication>

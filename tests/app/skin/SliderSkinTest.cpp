@@ -1,7 +1,7 @@
 #include "GPSSliderCell.h"
 #include "SkinColours.h"
 #include "SkinControls.h"
-#include "SkinPixels.h"
+#include "SkinTestSupport.h"
 
 #include <QSlider>
 

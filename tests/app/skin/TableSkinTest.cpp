@@ -2,7 +2,7 @@
 #include "GPSTextCell.h"
 #include "SkinColours.h"
 #include "SkinControls.h"
-#include "SkinPixels.h"
+#include "SkinTestSupport.h"
 
 #include <QApplication>
 #include <QPainter>
