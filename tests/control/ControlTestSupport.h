@@ -11,7 +11,6 @@
 
 #include <atomic>
 #include <condition_variable>
-#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <mutex>
@@ -40,11 +39,29 @@ struct RecordingDelegate final : GPSControlViewDelegate {
 // "held" waits until release() before it is answered (not a movie), so a test can keep a worker busy.
 class NameProbe final : public VideoTrackProbe {
 public:
-    bool hasVideoTrack(const std::filesystem::path& file) const override;
-    void release();
-    // Files asked about so far, and the threads that asked.
+    bool hasVideoTrack(const std::filesystem::path& file) const override {
+        const std::string name = file.filename().string();
+        {
+            std::unique_lock lock(mutex_);
+            threads_.insert(std::this_thread::get_id());
+            if (name.starts_with("held")) released_.wait(lock, [this] { return isReleased_; });
+        }
+        ++calls_;
+        return name.starts_with("movie");
+    }
+    void release() {
+        {
+            std::lock_guard lock(mutex_);
+            isReleased_ = true;
+        }
+        released_.notify_all();
+    }
+    // Files answered so far, and the threads that asked.
     std::size_t calls() const { return calls_; }
-    std::set<std::thread::id> threads() const;
+    std::set<std::thread::id> threads() const {
+        std::lock_guard lock(mutex_);
+        return threads_;
+    }
 
 private:
     mutable std::mutex mutex_;
@@ -56,19 +73,19 @@ private:
 
 class ProbedSettings {
 public:
-    ProbedSettings();
-    GPSUtils& utils() { return *utils_; }
+    GPSUtils& utils() { return utils_; }
     NameProbe& probe() { return *probe_; }
 
 private:
     QTemporaryDir dir_;
     std::shared_ptr<NameProbe> probe_ = std::make_shared<NameProbe>();
-    std::unique_ptr<GPSUtils> utils_;
+    GPSUtils utils_{SettingsLocation{.userFile = std::filesystem::path(dir_.path().toStdString()) / "Env.plist",
+                                     .shippedFile = std::nullopt},
+                    probe_};
 };
 
 // A key event as X11 delivers it: a modifier key's own event carries the state from before it.
-QKeyEvent keyEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                   bool autoRepeat = false);
-
-// Sends the key presses that hold modifiers, in order, each with the modifiers held before it.
-void pressModifiers(QObject* receiver, Qt::KeyboardModifiers modifiers);
+inline QKeyEvent keyEvent(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                          bool autoRepeat = false) {
+    return QKeyEvent(type, key, modifiers, QString(), autoRepeat);
+}

@@ -30,42 +30,14 @@ protected:
     std::unique_ptr<GPSControlView> view_ = std::make_unique<GPSControlView>(settings_.utils());
 };
 
-TEST_F(GPSControlViewTest, EveryKeyPressSendsItsCodeWithTheModifiersHeld) {
-    struct Row {
-        Qt::KeyboardModifiers held;
-        int key;
-        uint64_t code;
-    };
-    // Each key with each modifier is the key map's table; here, that the view holds what was pressed.
-    const std::vector<Row> rows{
-        {Qt::ControlModifier, Qt::Key_Left, GPSPlayControlPrev},
-        {Qt::ControlModifier | Qt::ShiftModifier, Qt::Key_Left, GPSPlayControlNone},
-        {Qt::NoModifier, Qt::Key_Left, GPSPlayControlBackward},
-        {Qt::AltModifier, Qt::Key_Space, GPSPlayControlNone},
-        {Qt::MetaModifier, Qt::Key_F, GPSPlayControlNone},  // Control, not Command
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::Message() << std::hex << row.key << " with " << row.held.toInt());
-        GPSControlView view(settings_.utils());
-        RecordingDelegate delegate;
-        view.setDelegate(&delegate);
-        pressModifiers(&view, row.held);
-        EXPECT_TRUE(delegate.codes.empty()) << "modifier keys alone send nothing";
-        QKeyEvent press = keyEvent(QEvent::KeyPress, row.key, row.held);
-        QCoreApplication::sendEvent(&view, &press);
-        EXPECT_TRUE(press.isAccepted());
-        ASSERT_EQ(delegate.codes.size(), 1u);
-        EXPECT_EQ(delegate.codes.front(), row.code);
-        EXPECT_EQ(delegate.senders.front(), &view);
-    }
-}
-
+// Which code each key makes with which modifiers is the key map's table; the views that pass keys
+// on show that modifiers are held.
 TEST_F(GPSControlViewTest, HoldingAKeyRepeatsItsCommand) {
     send(QEvent::KeyPress, Qt::Key_Up);
     send(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, true);
-    send(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier, true);
     send(QEvent::KeyRelease, Qt::Key_Up);
-    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>(3, GPSPlayControlVolumeUp)));
+    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>(2, GPSPlayControlVolumeUp)));
+    EXPECT_EQ(delegate_.senders.front(), view_.get());
 }
 
 TEST_F(GPSControlViewTest, AModifierReleasedElsewhereDoesNotStick) {
@@ -95,13 +67,9 @@ TEST_F(GPSControlViewTest, TakesTheKeysWithACommandFromMenuShortcuts) {
         Qt::KeyboardModifiers modifiers;
         bool taken;
     };
-    const std::vector<Row> rows{
-        {Qt::Key_Space, Qt::NoModifier, true},       {Qt::Key_Right, Qt::ControlModifier, true},
-        {Qt::Key_F, Qt::ControlModifier, true},      {Qt::Key_Backspace, Qt::ControlModifier, true},
-        {Qt::Key_O, Qt::ControlModifier, false},     {Qt::Key_Q, Qt::ControlModifier, false},
-        {Qt::Key_Space, Qt::ControlModifier, false}, {Qt::Key_Right, Qt::ShiftModifier, false},
-    };
-    for (const auto& row : rows) {
+    for (const Row& row : {Row{Qt::Key_Space, Qt::NoModifier, true}, Row{Qt::Key_Right, Qt::ControlModifier, true},
+                           Row{Qt::Key_O, Qt::ControlModifier, false}, Row{Qt::Key_Space, Qt::ControlModifier, false},
+                           Row{Qt::Key_Right, Qt::ShiftModifier, false}}) {
         QKeyEvent shortcut = keyEvent(QEvent::ShortcutOverride, row.key, row.modifiers);
         shortcut.ignore();
         QCoreApplication::sendEvent(view_.get(), &shortcut);

@@ -1,6 +1,5 @@
 // The views that pass keys on to the key-handling view: the playlist table after its own handling,
-// and the movie view, which also leaves full screen on Escape, toggles it on a double click and
-// swallows the scroll wheel.
+// and the movie view, which also owns full screen (double click, Escape) and swallows the wheel.
 
 #include "ControlTestSupport.h"
 #include "GPSControlView.h"
@@ -56,17 +55,10 @@ protected:
     GPSTableView* table_ = new GPSTableView(control_.get());
 };
 
-TEST_F(GPSTableViewTest, UpMovesTheSelectionAndRaisesTheVolume) {
+TEST_F(GPSTableViewTest, MovesTheSelectionAndPassesEachKeyOnOnce) {
     ASSERT_EQ(selectedRow(), 1);
     sendKey(table_, QEvent::KeyPress, Qt::Key_Up);
     EXPECT_EQ(selectedRow(), 0);
-    sendKey(table_, QEvent::KeyPress, Qt::Key_Down);
-    EXPECT_EQ(selectedRow(), 1);
-    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlVolumeUp, GPSPlayControlVolumeDown}));
-    EXPECT_EQ(delegate_.senders.front(), control_.get());
-}
-
-TEST_F(GPSTableViewTest, PassesModifiersOnAndEachKeyOnlyOnce) {
     sendKey(table_, QEvent::KeyPress, Qt::Key_Control);
     EXPECT_EQ(control_->keyStatus(), ModifierState::kCommandBit);
     sendKey(table_, QEvent::KeyPress, Qt::Key_Right, Qt::ControlModifier);
@@ -74,7 +66,8 @@ TEST_F(GPSTableViewTest, PassesModifiersOnAndEachKeyOnlyOnce) {
     EXPECT_EQ(control_->keyStatus(), 0u);
     // A key the table ignores would otherwise also climb to its parent, the key-handling view.
     sendKey(table_, QEvent::KeyPress, Qt::Key_F1);
-    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlNext, GPSPlayControlNone}));
+    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlVolumeUp, GPSPlayControlNext, GPSPlayControlNone}));
+    EXPECT_EQ(delegate_.senders.front(), control_.get());
 }
 
 TEST_F(GPSTableViewTest, TakesTheKeysOfTheControlViewFromMenuShortcutsWhereverItSits) {
@@ -130,7 +123,7 @@ protected:
     GPSPlayerView* player_ = nullptr;
 };
 
-TEST_F(GPSPlayerViewKeysTest, PassesKeysAndModifiersOn) {
+TEST_F(GPSPlayerViewKeysTest, PassesKeysAndModifiersOnButNotTheWheel) {
     sendKey(player_, QEvent::KeyPress, Qt::Key_Control);
     EXPECT_EQ(control_->keyStatus(), ModifierState::kCommandBit);
     sendKey(player_, QEvent::KeyPress, Qt::Key_Left, Qt::ControlModifier);
@@ -140,24 +133,16 @@ TEST_F(GPSPlayerViewKeysTest, PassesKeysAndModifiersOn) {
     sendKey(player_, QEvent::KeyPress, Qt::Key_Escape);
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlPrev, GPSPlayControlNone}));
     EXPECT_EQ(delegate_.senders.front(), control_.get());
+    QWheelEvent wheel(QPointF(10, 10), player_->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(player_, &wheel);
+    EXPECT_TRUE(wheel.isAccepted());
+    EXPECT_EQ(window_.wheels, 0) << "not passed on to the window";
+    EXPECT_EQ(delegate_.codes.size(), 2u);
 }
 
-TEST_F(GPSPlayerViewKeysTest, EscapeInFullScreenLeavesItAndNothingElse) {
+TEST_F(GPSPlayerViewKeysTest, OnlyALeftDoubleClickEntersFullScreenAndEscapeAloneLeavesIt) {
     window_.show();
-    player_->toggleFullscreen();
-    ASSERT_TRUE(player_->isInFullScreenMode());
-    sendKey(player_, QEvent::KeyPress, Qt::Key_Space);
-    sendKey(player_, QEvent::KeyPress, Qt::Key_Escape);
-    EXPECT_FALSE(player_->isInFullScreenMode());
-    EXPECT_EQ(player_->parentWidget(), &window_);
-    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlPlayPause}));
-}
-
-TEST_F(GPSPlayerViewKeysTest, OnlyALeftDoubleClickTogglesFullScreen) {
-    window_.show();
-    // A single click, then a right double click: nothing.
-    click(QEvent::MouseButtonPress, Qt::LeftButton);
-    click(QEvent::MouseButtonRelease, Qt::LeftButton);
     click(QEvent::MouseButtonPress, Qt::RightButton);
     click(QEvent::MouseButtonDblClick, Qt::RightButton);
     EXPECT_FALSE(player_->isInFullScreenMode());
@@ -169,18 +154,13 @@ TEST_F(GPSPlayerViewKeysTest, OnlyALeftDoubleClickTogglesFullScreen) {
     click(QEvent::MouseButtonPress, Qt::LeftButton);
     click(QEvent::MouseButtonRelease, Qt::LeftButton);
     EXPECT_TRUE(player_->isInFullScreenMode());
-    click(QEvent::MouseButtonDblClick, Qt::LeftButton);
+    sendKey(player_, QEvent::KeyPress, Qt::Key_Space);
+    sendKey(player_, QEvent::KeyPress, Qt::Key_Escape);
     EXPECT_FALSE(player_->isInFullScreenMode());
-    EXPECT_TRUE(delegate_.codes.empty());
-}
-
-TEST_F(GPSPlayerViewKeysTest, TheWheelDoesNothing) {
-    QWheelEvent wheel(QPointF(10, 10), player_->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(player_, &wheel);
-    EXPECT_TRUE(wheel.isAccepted());
-    EXPECT_EQ(window_.wheels, 0) << "not passed on to the window";
-    EXPECT_TRUE(delegate_.codes.empty());
+    EXPECT_EQ(player_->parentWidget(), &window_);
+    EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlPlayPause}));
+    click(QEvent::MouseButtonDblClick, Qt::LeftButton);
+    EXPECT_TRUE(player_->isInFullScreenMode());
 }
 
 }  // namespace
