@@ -20,43 +20,31 @@ public:
         EXPECT_TRUE(onMap.insert(overlay).second) << "a line added twice";
     }
     void moveMarker(Coordinate coordinate, const std::string& title) override {
-        marker = coordinate;
-        markerTitle = title;
-        ++markerMoves;
+        marker = coordinate, markerTitle = title, ++markerMoves;
     }
     void setRegion(CoordinateRegion region, bool animated) override {
-        lastRegion = region;
         EXPECT_TRUE(animated);
-        ++regionCalls;
+        lastRegion = region, ++regionCalls;
     }
-    void setCenterCoordinate(Coordinate coordinate) override {
-        center = coordinate;
-        ++centerCalls;
-    }
+    void setCenterCoordinate(Coordinate coordinate) override { center = coordinate, ++centerCalls; }
     void logIntake(const std::string& newText, const std::string& lastText) override {
         log.push_back("new = " + newText + ", last = " + lastText);
     }
 
     std::set<std::shared_ptr<const Polyline>> onMap;
-    std::optional<Coordinate> marker;
+    std::optional<Coordinate> marker, center;
     std::string markerTitle;
-    int markerMoves = 0;
     std::optional<CoordinateRegion> lastRegion;
-    int regionCalls = 0;
-    std::optional<Coordinate> center;
-    int centerCalls = 0;
+    int markerMoves = 0, regionCalls = 0, centerCalls = 0;
     std::vector<std::string> log;
 };
 
 // A raw record in the cameras' fixed-point form recorded `second` seconds after 2023-05-07 10:00:00.
 GPSDATA recordAt(int second, double latitude, double longitude) {
     GPSDATA raw;
-    raw.rmcinfo.Year = 2023;
-    raw.rmcinfo.Month = 5;
-    raw.rmcinfo.Day = 7;
+    raw.rmcinfo.Year = 2023, raw.rmcinfo.Month = 5, raw.rmcinfo.Day = 7;
     raw.rmcinfo.Hour = 10 + uint32_t(second / 3600);
-    raw.rmcinfo.Minute = uint32_t(second / 60 % 60);
-    raw.rmcinfo.Second = uint32_t(second % 60);
+    raw.rmcinfo.Minute = uint32_t(second / 60 % 60), raw.rmcinfo.Second = uint32_t(second % 60);
     raw.rmcinfo.Latitude = std::bit_cast<float>(int32_t(std::lround(latitude * 1e7)));
     raw.rmcinfo.Longitude = std::bit_cast<float>(int32_t(std::lround(longitude * 1e7)));
     return raw;
@@ -67,10 +55,7 @@ GPSData sampleOf(const GPSDATA& raw) {
     sample.SetData(raw, false);
     return sample;
 }
-
-GPSData sampleAt(int second, double latitude, double longitude) {
-    return sampleOf(recordAt(second, latitude, longitude));
-}
+GPSData sampleAt(int second, double latitude, double longitude) { return sampleOf(recordAt(second, latitude, longitude)); }
 
 // By default a little further north with every second.
 GPSData sampleAt(int second) { return sampleAt(second, 48.1 + second * 1e-4, 11.5); }
@@ -107,7 +92,7 @@ Lines drawnLines(const RouteTracker& tracker) {
     return lines;
 }
 
-std::vector<Coordinate> coordinatesAt(std::initializer_list<int> seconds) {
+std::vector<Coordinate> coordinatesAt(const std::vector<int>& seconds) {
     std::vector<Coordinate> points;
     for (int s : seconds) points.push_back(coordinateOf(sampleAt(s)));
     return points;
@@ -129,7 +114,7 @@ protected:
     RouteTracker tracker;
 };
 
-TEST_F(RouteTrackerTest, NormalPlaybackTakesEveryThirdSampleAsOneLine) {
+TEST_F(RouteTrackerTest, NormalPlaybackTakesEveryThirdSampleAsOneLineAndASeekForwardStartsAnother) {
     play(0, 10);
     EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 7, 10}));
     EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 7, 10})}));
@@ -149,13 +134,10 @@ TEST_F(RouteTrackerTest, NormalPlaybackTakesEveryThirdSampleAsOneLine) {
                            "new = 2023-05-07 10:00:07 AM, last = 2023-05-07 10:00:04 AM",
                            "new = 2023-05-07 10:00:10 AM, last = 2023-05-07 10:00:07 AM",
                        }));
-}
 
-TEST_F(RouteTrackerTest, SeekForwardPastTheGapStartsAOnePointLine) {
-    play(0, 10);
+    // A seek forward past the gap starts a one-point line and leaves the first one as it was drawn.
     const auto firstLine = tracker.polylineOverlays().front();
     play(40, 40);
-    EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1, 4, 7, 10, 40}));
     EXPECT_EQ(drawnLines(tracker), (Lines{coordinatesAt({1, 4, 7, 10}), coordinatesAt({40})}));
     EXPECT_EQ(tracker.polylineOverlays().front(), firstLine) << "an unchanged line was redrawn";
     expectMapShowsTheRoute();
@@ -228,10 +210,7 @@ TEST_F(RouteTrackerTest, SplitsWhereRecordingTimeJumps) {
             index += 3;
         }
         Lines expected;
-        for (const auto& line : c.lines) {
-            expected.emplace_back();
-            for (int s : line) expected.back().push_back(coordinateOf(sampleAt(s)));
-        }
+        for (const auto& line : c.lines) expected.push_back(coordinatesAt(line));
         EXPECT_EQ(drawnLines(fresh), expected);
         const auto& drawn = fresh.polylineOverlays();
         EXPECT_EQ(freshMap.onMap, std::set<std::shared_ptr<const Polyline>>(drawn.begin(), drawn.end()));
@@ -269,13 +248,12 @@ TEST_F(RouteTrackerTest, IndexZeroClearsTheRouteButLeavesMarkerAndFraming) {
     EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{1}));
 }
 
-TEST_F(RouteTrackerTest, NaNPositionChangesNothing) {
+TEST_F(RouteTrackerTest, NaNPositionChangesNothingButZeroZeroIsAPosition) {
     GPSDATA raw;  // the scaled form keeps a float latitude as it is
     raw.rmcinfo.Year = 23, raw.rmcinfo.Month = 5, raw.rmcinfo.Day = 7;
     raw.rmcinfo.Latitude = std::numeric_limits<float>::quiet_NaN();
     raw.rmcinfo.Longitude = 600.0f;
-    GPSData sample;
-    sample.SetData(raw, false);
+    const GPSData sample = sampleOf(raw);
     ASSERT_TRUE(std::isnan(sample.Latitude()));
 
     tracker.showCarLocation(sample, 1, map);
@@ -284,9 +262,8 @@ TEST_F(RouteTrackerTest, NaNPositionChangesNothing) {
     EXPECT_EQ(map.regionCalls, 0);
     EXPECT_EQ(map.centerCalls, 0);
     EXPECT_TRUE(map.onMap.empty());
-}
 
-TEST_F(RouteTrackerTest, ZeroZeroIsAnOrdinaryPosition) {
+    // 0, 0 is an ordinary position, not a missing one.
     tracker.showCarLocation(sampleAt(1, 0.0, 0.0), 1, map);
     EXPECT_EQ(map.marker, (Coordinate{0, 0}));
     EXPECT_EQ(map.lastRegion->center, (Coordinate{0, 0}));
