@@ -50,16 +50,10 @@ public:
         mapView->resize(400, 300);
         MainWindowOutlets o{.window = &window, .player = view, .playListView = table, .mapView = mapView, .txtTitle = txtTitle,
                             .durationSlider = durationSlider, .volumeSlider = volumeSlider};
-        o.btMute = btMute = button("btMute");
-        o.btSound = btSound = button("btSound");
-        o.btPrev = btPrev = button("btPrev");
-        o.btBackward = btBackward = button("btBackward");
-        o.btPlay = btPlay = button("btPlay");
-        o.btPause = btPause = button("btPause");
-        o.btForward = btForward = button("btForward");
-        o.btNext = btNext = button("btNext");
-        o.btStop = btStop = button("btStop");
-        o.btSnapshot = btSnapshot = button("btSnapshot");
+#define BUTTON(name) o.name = name = button(#name)
+        BUTTON(btMute), BUTTON(btSound), BUTTON(btPrev), BUTTON(btBackward), BUTTON(btPlay), BUTTON(btPause);
+        BUTTON(btForward), BUTTON(btNext), BUTTON(btStop), BUTTON(btSnapshot);
+#undef BUTTON
         o.btToggleFullscreen = button("btToggleFullscreen");
         for (QLabel** readOut : {&o.txtSpeed, &o.txtSpeedUnit, &o.lblLatitude, &o.txtLatitude, &o.lblLongitude,
                                  &o.txtLongitude, &o.lblDate, &o.txtDate, &o.lblTime, &o.txtTime, &o.txtMapView})

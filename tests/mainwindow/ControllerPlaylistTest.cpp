@@ -1,5 +1,5 @@
-// The controller's playlist as the window uses it: the open dialog's folder scan, removing the
-// selected entry, double-clicking a row, and movies that arrive before the window is set up.
+// The controller's playlist as the window uses it: the open dialog, removing and double-clicking
+// entries, and movies that arrive before the window is set up.
 
 #include "ControllerHarness.h"
 

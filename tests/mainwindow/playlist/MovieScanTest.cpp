@@ -18,9 +18,9 @@ namespace {
 using Files = std::vector<std::filesystem::path>;
 
 TEST(MovieCandidates, ExactlySixSpellingsOfTheTwoExtensionsMakeCandidates) {
-    for (const char* name : {"a.mp4", "a.MP4", "a.Mp4", "a.mov", "a.Mov", "a.MOV", "a.txt.mp4", ".hidden.mov"})
+    for (const char* name : {"a.mp4", "a.MP4", "a.Mp4", "a.mov", "a.Mov", "a.MOV", ".hidden.mov"})
         EXPECT_TRUE(hasMovieExtension(name)) << name;
-    for (const char* name : {"a.mP4", "a.MoV", "a.m4v", "a.mp4.txt", "mp4", "a.", "/cam.mp4/clip"})
+    for (const char* name : {"a.mP4", "a.MoV", "a.mp4.txt", "mp4", "/cam.mp4/clip"})
         EXPECT_FALSE(hasMovieExtension(name)) << name;
 }
 

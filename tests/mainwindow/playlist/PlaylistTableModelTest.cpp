@@ -3,8 +3,6 @@
 #include "TimeZoneGuard.h"
 
 #include <QAbstractItemModelTester>
-#include <QHeaderView>
-#include <QTableView>
 
 #include <gtest/gtest.h>
 
@@ -42,20 +40,6 @@ TEST_F(PlaylistTableModelTest, RowsShowTheEntriesTextsUnderTheColumnsIdentifiers
     EXPECT_EQ(cell(1, 1), "");
     EXPECT_EQ(cell(1, 2), "");
     EXPECT_TRUE(model.data(model.index(0, 2), Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
-}
-
-TEST_F(PlaylistTableModelTest, ReloadDataResetsAttachedViews) {
-    QTableView view;
-    view.setModel(&model);
-    playlist.add(std::vector<PlaylistItem>{{"b.mp4", madeAt(5)}, {"a.mp4", madeAt(4)}});
-    model.reloadData();
-    EXPECT_EQ(view.verticalHeader()->count(), 2);
-    view.selectRow(1);
-    playlist.removeAt(1);
-    model.reloadData();
-    EXPECT_EQ(view.verticalHeader()->count(), 1);
-    EXPECT_FALSE(view.selectionModel()->hasSelection());
-    EXPECT_EQ(cell(0, 0), "a.mp4");
 }
 
 }  // namespace
