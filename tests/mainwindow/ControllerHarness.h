@@ -48,8 +48,13 @@ public:
         txtTitle = label("txtTitle");
         mapView = new MapView(&window);
         mapView->resize(400, 300);
-        MainWindowOutlets o{.window = &window, .player = view, .playListView = table, .mapView = mapView, .txtTitle = txtTitle,
-                            .durationSlider = durationSlider, .volumeSlider = volumeSlider};
+        MainWindowOutlets o{.window = &window,
+                            .player = view,
+                            .playListView = table,
+                            .mapView = mapView,
+                            .txtTitle = txtTitle,
+                            .durationSlider = durationSlider,
+                            .volumeSlider = volumeSlider};
 #define BUTTON(name) o.name = name = button(#name)
         BUTTON(btMute), BUTTON(btSound), BUTTON(btPrev), BUTTON(btBackward), BUTTON(btPlay), BUTTON(btPause);
         BUTTON(btForward), BUTTON(btNext), BUTTON(btStop), BUTTON(btSnapshot);
@@ -101,8 +106,7 @@ public:
     QSlider* durationSlider = nullptr;
     QSlider* volumeSlider = nullptr;
     QLabel* txtTitle = nullptr;
-    QPushButton *btMute, *btSound, *btPrev, *btBackward, *btPlay, *btPause, *btForward, *btNext, *btStop,
-        *btSnapshot;
+    QPushButton *btMute, *btSound, *btPrev, *btBackward, *btPlay, *btPause, *btForward, *btNext, *btStop, *btSnapshot;
 
 private:
     QTemporaryDir moviesDir_;

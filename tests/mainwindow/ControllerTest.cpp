@@ -1,12 +1,17 @@
 // The window's controller driven as the window drives it, with a scripted player behind the movie
-// view: transport commands, the entry to play, sound, and the button states they leave behind.
+// view: transport commands, the entry to play, sound, the playlist, the map, and the button states
+// they leave behind.
 
 #include "ControllerHarness.h"
 
+#include "GPSDataLoader.h"
 #include "GPSPlayControl.h"
+#include "MapViewDelegate.h"
 #include "SliderFraction.h"
+#include "VideoTrackProbe.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFileDialog>
 #include <QImage>
 #include <QThreadPool>
@@ -15,12 +20,32 @@
 
 namespace {
 
-class ControllerTest : public ControllerHarness, public ::testing::Test {};
+// Any file whose name ends in .mov or .mp4 counts as a movie; the scan's own rules are tested
+// with the playlist library.
+class NameProbe final : public VideoTrackProbe {
+public:
+    bool hasVideoTrack(const std::filesystem::path& file) const override {
+        return file.extension() == ".mov" || file.extension() == ".mp4";
+    }
+};
+
+class ControllerTest : public ControllerHarness, public ::testing::Test {
+protected:
+    // Lets queued results arrive; gives up after a generous while so that a lost result fails
+    // instead of hanging.
+    template <typename Done>
+    bool waitFor(Done done) {
+        const QDeadlineTimer deadline(20000);
+        while (!done() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        return done();
+    }
+    void report(const GPSData& sample, uint64_t index) { controller.UpdatedGPSInfo(view->engine(), sample, index); }
+};
 
 TEST_F(ControllerTest, NothingLoadedDisablesEveryTransportControl) {
     controller.windowDidBecomeMain();
-    for (QWidget* control : std::initializer_list<QWidget*>{btPrev, btBackward, btForward, btNext, btStop, btSnapshot,
-                                                           durationSlider})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{btPrev, btBackward, btForward, btNext, btStop, btSnapshot, durationSlider})
         EXPECT_FALSE(control->isEnabled()) << control->objectName().toStdString();
     EXPECT_EQ(controller.curIndex, -1);
     EXPECT_TRUE(btPause->isHidden());
@@ -100,7 +125,8 @@ TEST_F(ControllerTest, TenSecondStepsStopAtEitherEnd) {
         uint64_t code;
         double to;
         bool seeks;
-    } cases[] = {{0.95, GPSPlayControlForward, 1.0, true}, {1.0, GPSPlayControlForward, 1.0, false},
+    } cases[] = {{0.95, GPSPlayControlForward, 1.0, true},
+                 {1.0, GPSPlayControlForward, 1.0, false},
                  {0.03, GPSPlayControlBackward, 0.0, true}};
     for (const auto& c : cases) {
         setSliderFraction(*durationSlider, c.from);
@@ -163,7 +189,7 @@ TEST_F(ControllerTest, FastRatesShowThePlayButtonWhichGoesBackToNormal) {
     EXPECT_EQ(player->rate, -2.0f);
 }
 
-TEST_F(ControllerTest, PlayWithNothingLoadedPlaysTheSelectedRowOrNothing) {
+TEST_F(ControllerTest, PlayWithNothingLoadedPlaysTheSelectedRowAndADoubleClickRestartsIt) {
     addMovies(2);
     controller.OnStop(btStop);
     clearSelection();
@@ -177,6 +203,15 @@ TEST_F(ControllerTest, PlayWithNothingLoadedPlaysTheSelectedRowOrNothing) {
     controller.OnPlay(btPlay);
     EXPECT_EQ(controller.curIndex, 1);
     EXPECT_EQ(factory->requested.back(), movie(1));
+
+    // A double click on the loaded row restarts it rather than loading it again.
+    controller.OnDoubleClickMediaItem(table);
+    EXPECT_EQ(factory->requested.size(), loads + 1);
+    EXPECT_EQ(player->seeks.back().seconds(), 0.0);
+    table->setCurrentIndex(table->model()->index(0, 0));
+    controller.OnDoubleClickMediaItem(table);
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_TRUE(playing());
 }
 
 TEST_F(ControllerTest, AnEntryThatNoLongerPlaysIsLoadedOnceAndLeftStopped) {
@@ -222,6 +257,105 @@ TEST_F(ControllerTest, SnapshotIsTakenAtOnceAndWrittenOnlyWhereTheUserAccepts) {
             EXPECT_EQ(saved.size(), QSize(320, 180)) << "the movie's own pixel size";
         }
     }
+}
+
+TEST_F(ControllerTest, ChoosingOneFileAddsEveryMovieOfItsFolderAndPlaysTheOldest) {
+    settings.utils().setVideoTrackProbe(std::make_shared<NameProbe>());
+
+    controller.OnPlay(btPlay);  // an empty playlist asks for files
+    auto* dialog = window.findChild<QFileDialog*>(QStringLiteral("openDialog"));
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Open movie file"));
+    EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFiles);
+    emit dialog->filesSelected({QString::fromStdString(movie(2).string())});
+
+    ASSERT_TRUE(waitFor([&] { return controller.playlist.size() == 4; })) << controller.playlist.size();
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_EQ(factory->requested.front(), movie(0));
+    EXPECT_TRUE(playing());
+    EXPECT_TRUE(btNext->isEnabled());
+    ASSERT_NE(table->model(), nullptr);
+    EXPECT_EQ(table->model()->rowCount(), 4);
+}
+
+TEST_F(ControllerTest, RemovingTheSelectedEntry) {
+    controller.OnRemoveMediaFile(nullptr);  // an empty playlist, nothing selected: nothing
+    addMovies(3);
+    clearSelection();
+    controller.OnRemoveMediaFile(nullptr);
+    EXPECT_EQ(controller.playlist.size(), 3u) << "no row selected: nothing goes";
+
+    // Another entry than the loaded one: the loaded movie keeps playing and curIndex follows it.
+    controller.OnNext(btNext);
+    ASSERT_EQ(controller.curIndex, 1);
+    selectRow(0);
+    controller.OnRemoveMediaFile(nullptr);
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_EQ(controller.playlist.at(0).URL(), movie(1));
+    EXPECT_TRUE(playing());
+
+    // The loaded entry, with one after it: that one is loaded, selected, and waits.
+    selectRow(0);
+    controller.OnRemoveMediaFile(nullptr);
+    EXPECT_EQ(controller.curIndex, 0);
+    EXPECT_EQ(factory->requested.back(), movie(2));
+    EXPECT_EQ(selectedRow(), 0);
+    EXPECT_FALSE(playing());
+
+    // The only entry: everything stops and the table is empty.
+    selectRow(0);
+    controller.OnRemoveMediaFile(nullptr);
+    EXPECT_TRUE(controller.playlist.empty());
+    EXPECT_EQ(controller.curIndex, -1);
+    EXPECT_EQ(selectedRow(), -1);
+    EXPECT_EQ(table->model()->rowCount(), 0);
+    EXPECT_FALSE(view->engine().IsReady());
+    EXPECT_FALSE(btStop->isEnabled());
+}
+
+class EarlyMoviesTest : public ControllerHarness, public ::testing::Test {
+protected:
+    EarlyMoviesTest() : ControllerHarness(NotActivated{}) {}
+};
+
+TEST_F(EarlyMoviesTest, MoviesBeforeTheWindowIsSetUpWaitForIt) {
+    controller.AddedMovies(nullptr, {movie(0), movie(1)});
+    EXPECT_TRUE(factory->requested.empty());
+    controller.windowDidBecomeMain();
+    EXPECT_EQ(controller.playlist.size(), 2u);
+    EXPECT_EQ(controller.curIndex, 0) << "set-up's reset must not forget the movie it plays";
+    EXPECT_EQ(txtTitle->text().toStdString(), movie(0).string());
+    EXPECT_TRUE(btNext->isEnabled());
+}
+
+TEST_F(ControllerTest, ReportedSamplesDrawTheRouteAndMoveOneCar) {
+    float maxSpeed = 0;
+    const std::vector<GPSData> track = GPSDataLoader::LoadGPSDataList(fixtureMovie("index_mp4.mp4"), &maxSpeed);
+    ASSERT_GE(track.size(), 8u);
+    for (uint64_t i = 0; i < 8; ++i) report(track[i], i);
+
+    EXPECT_GE(mapView->overlayCount(), 1u) << "points 1, 4 and 7 make a line";
+    const Coordinate car{track[7].Latitude(), track[7].Longitude()};
+    EXPECT_NEAR(mapView->centerCoordinate().latitude, car.latitude, 1e-6) << "the car is kept in the centre";
+    EXPECT_NEAR(mapView->centerCoordinate().longitude, car.longitude, 1e-6);
+
+    const auto style = controller.rendererForOverlay(*mapView, Polyline{});
+    ASSERT_TRUE(style.has_value());
+    EXPECT_EQ(style->color, QColor::fromRgbF(1, 0, 0, 1));
+    EXPECT_EQ(style->lineWidth, 4.0);
+
+    // Index 0 (a new movie) takes the route off and leaves the car where it was.
+    report(track[0], 0);
+    EXPECT_EQ(mapView->overlayCount(), 0u);
+    EXPECT_NEAR(mapView->centerCoordinate().latitude, car.latitude, 1e-6);
+}
+
+TEST_F(ControllerTest, TheMapMenusChoiceIsKeptForTheNextRun) {
+    controller.OnMapSourceChanged("folder:/nowhere");  // a folder that will not open: no tiles, no crash
+    EXPECT_EQ(settings.utils().mapSource(), "folder:/nowhere");
+    EXPECT_EQ(mapView->tileProvider(), nullptr);
+    controller.OnMapSourceChanged("offline");
+    EXPECT_EQ(settings.utils().mapSource(), "offline");
 }
 
 }  // namespace

@@ -22,7 +22,8 @@ TEST(SliderFraction, ReadsAFractionOfTheRangeAndWritesTheNearestStepSilently) {
     QSlider slider;
     slider.setRange(0, 100);
     QSignalSpy changes(&slider, &QSlider::valueChanged);
-    for (const auto& [fraction, value] : {std::pair{0.104, 10}, {0.105, 11}, {-0.5, 0}, {1.5, 100}, {nan, 0}, {inf, 100}}) {
+    for (const auto& [fraction, value] :
+         {std::pair{0.104, 10}, {0.105, 11}, {-0.5, 0}, {1.5, 100}, {nan, 0}, {inf, 100}}) {
         slider.setValue(50);
         changes.clear();
         setSliderFraction(slider, fraction);

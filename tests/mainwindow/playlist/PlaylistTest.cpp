@@ -18,8 +18,9 @@ std::vector<std::string> paths(const std::vector<PlaylistItem>& items) {
 
 TEST(PlaylistItem, SizeTextsUseBinaryUnitsAndRoundHalfToEven) {
     const std::pair<std::optional<uint64_t>, const char*> cases[] = {
-        {std::nullopt, ""}, {1023, "1023 B"}, {1024, "1.0 KB"}, {1280, "1.2 KB"}, {1792, "1.8 KB"},
-        {1048575, "1024.0 KB"}, {1048576, "1.0 M"}, {1099511627775, "1024.0 G"}, {1099511627776, ""}, {UINT64_MAX, ""},
+        {std::nullopt, ""},  {1023, "1023 B"},       {1024, "1.0 KB"},   {1280, "1.2 KB"},
+        {1792, "1.8 KB"},    {1048575, "1024.0 KB"}, {1048576, "1.0 M"}, {1099511627775, "1024.0 G"},
+        {1099511627776, ""}, {UINT64_MAX, ""},
     };
     for (const auto& [bytes, text] : cases) EXPECT_EQ(PlaylistItem::FileSizeStringWithNumber(bytes), text) << text;
 }
@@ -27,8 +28,10 @@ TEST(PlaylistItem, SizeTextsUseBinaryUnitsAndRoundHalfToEven) {
 TEST(PlaylistItem, CreationTextIsLocalTimeOnTheTwelveHourClockWithoutAmPm) {
     const TimeZoneGuard zone("JST-9");
     const std::pair<std::array<int, 3>, const char*> cases[] = {
-        {{13, 5, 9}, "2016-05-03 01:05:09"}, {{0, 30, 0}, "2016-05-03 12:30:00"},
-        {{12, 30, 0}, "2016-05-03 12:30:00"}, {{23, 59, 59}, "2016-05-03 11:59:59"},
+        {{13, 5, 9}, "2016-05-03 01:05:09"},
+        {{0, 30, 0}, "2016-05-03 12:30:00"},
+        {{12, 30, 0}, "2016-05-03 12:30:00"},
+        {{23, 59, 59}, "2016-05-03 11:59:59"},
     };
     for (const auto& [clock, text] : cases)
         EXPECT_EQ(PlaylistItem::CreationTimetringWithDate(localTime(3, clock[0], clock[1], clock[2])), text);
@@ -57,16 +60,17 @@ TEST(PlaylistItem, ReadsItsFileAndAMissingFileStillMakesAnEntryWithoutTexts) {
 TEST(PlaylistOrder, ReadsTheKeyBackWithTwelveAsZeroAndRejectsOtherShapes) {
     EXPECT_EQ(PlaylistOrder::sortKey("2016-05-03 12:30:09"), (PlaylistOrder::Key{2016, 5, 3, 0, 30, 9}));
     EXPECT_EQ(PlaylistOrder::sortKey("2016-05-03 11:59:59"), (PlaylistOrder::Key{2016, 5, 3, 11, 59, 59}));
-    for (const char* text : {"", "2016-05-03 13:00:00", "2016-05-03 00:00:00", "2016-05-03 01:05:09 ", "+016-05-03 01:05:09"})
+    for (const char* text :
+         {"", "2016-05-03 13:00:00", "2016-05-03 00:00:00", "2016-05-03 01:05:09 ", "+016-05-03 01:05:09"})
         EXPECT_EQ(PlaylistOrder::sortKey(text), std::nullopt) << text;
 }
 
 TEST(PlaylistOrder, SortsByTheTwelveHourReadingThenByNameAndPutsEntriesWithoutTimeLast) {
     const TimeZoneGuard zone("UTC0");
     std::vector<PlaylistItem> items{
-        {"no-time-1", std::nullopt}, {"03:00", madeAt(3)},     {"14:00", madeAt(14)},
-        {"00:30", madeAt(0, 30)},    {"no-time-2", std::nullopt}, {"day-before", madeAt(23, 0, 2)},
-        {"12:30", madeAt(12, 30)},   // the same text as 00:30: the name decides
+        {"no-time-1", std::nullopt},  {"03:00", madeAt(3)},         {"14:00", madeAt(14)},
+        {"00:30", madeAt(0, 30)},     {"no-time-2", std::nullopt},  {"day-before", madeAt(23, 0, 2)},
+        {"12:30", madeAt(12, 30)},                                   // the same text as 00:30: the name decides
         {"clip_0002.MOV", madeAt(5)}, {"clip_0001.MOV", madeAt(5)},  // copied in one second
     };
     PlaylistOrder::sortByCreationTime(items);
