@@ -85,7 +85,9 @@ TEST(GPSControlViewPasteboard, ReadsLocalFileNamesAsBytes) {
     };
     using Names = std::vector<std::string>;
     const std::vector<Row> rows{
-        {"plain and spaced", {"file:///clips/a.mov", "file:///clips/two%20words.mp4"}, Names{"/clips/a.mov", "/clips/two words.mp4"}},
+        {"plain and spaced",
+         {"file:///clips/a.mov", "file:///clips/two%20words.mp4"},
+         Names{"/clips/a.mov", "/clips/two words.mp4"}},
         {"not UTF-8", {"file:///clips/caf%E9-%FF.mov"}, Names{"/clips/caf\xe9-\xff.mov"}},
         {"localhost", {"file://localhost/clips/a.mov"}, Names{"/clips/a.mov"}},
         {"no files of this machine", {"https://example.org/a.mov", "file://elsewhere/clips/a.mov"}, Names{}},
@@ -111,10 +113,14 @@ TEST_F(DropTest, EnteringOffersACopyOnlyForAMovieAndACopyingSourceButEveryDropIs
     const Row rows[] = {
         {"movies among text, one twice",
          {"/clips/movie-a.mov", "/clips/notes.txt", "/clips/movie-b.avi", "/clips/movie-a.mov"},
-         Qt::CopyAction | Qt::MoveAction, Qt::CopyAction,
+         Qt::CopyAction | Qt::MoveAction,
+         Qt::CopyAction,
          {"/clips/movie-a.mov", "/clips/movie-b.avi", "/clips/movie-a.mov"}},
         {"no movie", {"/clips/notes.txt", "/clips/song.mp4"}, Qt::CopyAction, Qt::IgnoreAction, {}},
-        {"no copy allowed", {"/clips/movie-a.mov"}, Qt::MoveAction | Qt::LinkAction, Qt::IgnoreAction,
+        {"no copy allowed",
+         {"/clips/movie-a.mov"},
+         Qt::MoveAction | Qt::LinkAction,
+         Qt::IgnoreAction,
          {"/clips/movie-a.mov"}},
     };
     for (const auto& row : rows) {

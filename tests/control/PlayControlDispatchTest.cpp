@@ -82,10 +82,9 @@ TEST(PlayControlDispatch, RunsEachCodesHandlerWithTheSendingViewUnlessItsButtonI
         }
         // Every button disabled: only the unguarded codes still run.
         RecordingCommands disabled;
-        for (const auto button :
-             {TransportButton::Prev, TransportButton::Backward, TransportButton::Play, TransportButton::Pause,
-              TransportButton::Forward, TransportButton::Next, TransportButton::Stop, TransportButton::Snapshot,
-              TransportButton::ToggleFullscreen})
+        for (const auto button : {TransportButton::Prev, TransportButton::Backward, TransportButton::Play,
+                                  TransportButton::Pause, TransportButton::Forward, TransportButton::Next,
+                                  TransportButton::Stop, TransportButton::Snapshot, TransportButton::ToggleFullscreen})
             disabled.disabled.insert(button);
         PlayControlDispatch::perform(disabled, &view, route.code);
         EXPECT_EQ(disabled.calls, route.guard ? Calls{} : route.calls);

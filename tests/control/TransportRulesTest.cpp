@@ -64,7 +64,7 @@ TEST(SliderStep, StepsOfNoSizeOrNoDuration) {
 }
 
 std::array<bool, 7> flags(const ControlStates& s) {
-    return {s.prevEnabled, s.backwardEnabled, s.forwardEnabled, s.nextEnabled,
+    return {s.prevEnabled, s.backwardEnabled, s.forwardEnabled,       s.nextEnabled,
             s.stopEnabled, s.snapshotEnabled, s.durationSliderEnabled};
 }
 
@@ -78,7 +78,8 @@ TEST(TransportButtonStates, ControlsAtTheEdgesOfThePlaylistAndTheProgress) {
         {"first of three at 0", {.ready = true, .curIndex = 0, .count = 3, .progress = 0.0}, {0, 0, 1, 1, 1, 1, 1}},
         {"only entry", {.ready = true, .curIndex = 0, .count = 1, .progress = 0.5}, {0, 1, 1, 0, 1, 1, 1}},
         {"loaded but no entry", {.ready = true, .curIndex = -1, .count = 3, .progress = 0.5}, {0, 1, 1, 0, 1, 1, 1}},
-        {"progress not a number", {.ready = true, .curIndex = 1, .count = 3, .progress = std::nan("")},
+        {"progress not a number",
+         {.ready = true, .curIndex = 1, .count = 3, .progress = std::nan("")},
          {1, 0, 0, 1, 1, 1, 1}},
         {"empty playlist wraps", {.ready = true, .curIndex = 0, .count = 0, .progress = 0.5}, {0, 1, 1, 1, 1, 1, 1}},
     };

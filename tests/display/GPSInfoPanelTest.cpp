@@ -38,7 +38,7 @@ GPSData readOutSample() {
 class GPSInfoPanelTest : public ::testing::Test {
 protected:
     GPSInfoPanelTest() {
-        const std::pair<const char*, QLabel* GPSInfoPanelLabels::*> members[] = {
+        const std::pair<const char*, QLabel * GPSInfoPanelLabels::*> members[] = {
             {"txtSpeed", &GPSInfoPanelLabels::txtSpeed},         {"txtSpeedUnit", &GPSInfoPanelLabels::txtSpeedUnit},
             {"lblLatitude", &GPSInfoPanelLabels::lblLatitude},   {"txtLatitude", &GPSInfoPanelLabels::txtLatitude},
             {"lblLongitude", &GPSInfoPanelLabels::lblLongitude}, {"txtLongitude", &GPSInfoPanelLabels::txtLongitude},
@@ -46,7 +46,8 @@ protected:
             {"lblTime", &GPSInfoPanelLabels::lblTime},           {"txtTime", &GPSInfoPanelLabels::txtTime},
             {"txtMapView", &GPSInfoPanelLabels::txtMapView}};
         for (const auto& [name, member] : members)
-            outlets_.*member = labels_[name] = new QLabel(QStringLiteral("layout %1").arg(QLatin1String(name)), &window_);
+            outlets_.*member = labels_[name] =
+                new QLabel(QStringLiteral("layout %1").arg(QLatin1String(name)), &window_);
         settings().setUnitType(0);
     }
 
@@ -69,11 +70,18 @@ protected:
 TEST_F(GPSInfoPanelTest, ASampleFillsTheFiveReadOutsAndResetWritesTheIdleTexts) {
     const GPSInfoPanel panel(outlets_, settings());
     panel.show(readOutSample());
-    expectTexts({{"txtSpeed", "62.14"}, {"txtLatitude", "22.50000"}, {"txtLongitude", "-114.25000"},
-                 {"txtDate", "12/31/16"}, {"txtTime", "20:05:09"}});
+    expectTexts({{"txtSpeed", "62.14"},
+                 {"txtLatitude", "22.50000"},
+                 {"txtLongitude", "-114.25000"},
+                 {"txtDate", "12/31/16"},
+                 {"txtTime", "20:05:09"}});
     panel.reset();
-    expectTexts({{"txtSpeed", "00.00"}, {"txtLatitude", "00.00000"}, {"txtLongitude", "00.00000"},
-                 {"txtDate", "00/00/00"}, {"txtTime", "00:00:00"}, {"txtMapView", ""}});
+    expectTexts({{"txtSpeed", "00.00"},
+                 {"txtLatitude", "00.00000"},
+                 {"txtLongitude", "00.00000"},
+                 {"txtDate", "00/00/00"},
+                 {"txtTime", "00:00:00"},
+                 {"txtMapView", ""}});
 }
 
 TEST_F(GPSInfoPanelTest, RefreshingUnitsWritesTheUnitAndTheGivenSpeedOnly) {

@@ -42,7 +42,7 @@ TEST(RouteTimestamp, TextAndInstantOfTheRecordedFields) {
 // The recorded time is local time of the user's zone, summer time included.
 TEST(RouteTimestamp, ReadsTheFieldsAsLocalTime) {
     const TimeZoneGuard berlin{"CET-1CEST,M3.5.0,M10.5.0/3"};
-    EXPECT_EQ(routeTimestamp(fields(23, 7, 1, 12, 0, 0)), 1688205600);  // 10:00 UTC
+    EXPECT_EQ(routeTimestamp(fields(23, 7, 1, 12, 0, 0)), 1688205600);   // 10:00 UTC
     EXPECT_EQ(routeTimestamp(fields(23, 1, 15, 12, 0, 0)), 1673780400);  // 11:00 UTC
 }
 

@@ -55,7 +55,9 @@ GPSData sampleOf(const GPSDATA& raw) {
     sample.SetData(raw, false);
     return sample;
 }
-GPSData sampleAt(int second, double latitude, double longitude) { return sampleOf(recordAt(second, latitude, longitude)); }
+GPSData sampleAt(int second, double latitude, double longitude) {
+    return sampleOf(recordAt(second, latitude, longitude));
+}
 
 // By default a little further north with every second.
 GPSData sampleAt(int second) { return sampleAt(second, 48.1 + second * 1e-4, 11.5); }
@@ -274,8 +276,8 @@ TEST_F(RouteTrackerTest, NaNPositionChangesNothingButZeroZeroIsAPosition) {
 // stretches of at most 8 s, and the map shows exactly its lines.
 TEST_F(RouteTrackerTest, IncrementalDrawingMatchesAFullRedraw) {
     // Forward playback with jumps both ways, as a user scrubbing would report.
-    const std::vector<std::pair<int64_t, int64_t>> stretches = {
-        {0, 30}, {60, 75}, {20, 28}, {29, 50}, {100, 130}, {110, 115}, {5, 9}, {0, 4}, {2, 40}};
+    const std::vector<std::pair<int64_t, int64_t>> stretches = {{0, 30},    {60, 75}, {20, 28}, {29, 50}, {100, 130},
+                                                                {110, 115}, {5, 9},   {0, 4},   {2, 40}};
     for (const auto& [first, last] : stretches) {
         play(first, last);
         std::vector<std::vector<Coordinate>> expected;
