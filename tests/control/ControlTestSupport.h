@@ -1,13 +1,16 @@
 #pragma once
 // Shared pieces of the control tests: a delegate that records what the key-handling view sends, a
-// settings object in a temporary folder whose probe the test controls, and key events.
+// settings object in a temporary folder whose probe the test controls, that view, and key events.
 
+#include "GPSControlView.h"
 #include "GPSControlViewDelegate.h"
 #include "GPSUtils.h"
 #include "VideoTrackProbe.h"
 
 #include <QKeyEvent>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <atomic>
 #include <condition_variable>
@@ -82,6 +85,15 @@ private:
     GPSUtils utils_{SettingsLocation{.userFile = std::filesystem::path(dir_.path().toStdString()) / "Env.plist",
                                      .shippedFile = std::nullopt},
                     probe_};
+};
+
+// A key-handling view that reports to a recording delegate, with settings of its own.
+class ControlViewTest : public ::testing::Test {
+protected:
+    ControlViewTest() { view_->setDelegate(&delegate_); }
+    ProbedSettings settings_;
+    RecordingDelegate delegate_;
+    std::unique_ptr<GPSControlView> view_ = std::make_unique<GPSControlView>(settings_.utils());
 };
 
 // A key event as X11 delivers it: a modifier key's own event carries the state from before it.

@@ -44,10 +44,8 @@ void processEventsUntil(const std::function<bool()>& done) {
     }
 }
 
-class DropTest : public ::testing::Test {
+class DropTest : public ControlViewTest {
 protected:
-    DropTest() { view_->setDelegate(&delegate_); }
-
     template <typename Event>
     Qt::DropAction answer(const QMimeData& data, Qt::DropActions allowed = Qt::CopyAction | Qt::MoveAction) {
         Event event(QPoint(5, 5), allowed, &data, Qt::LeftButton, Qt::NoModifier);
@@ -65,10 +63,6 @@ protected:
         QDropEvent event(QPointF(6, 6), allowed, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(view_.get(), &event);
     }
-
-    ProbedSettings settings_;
-    RecordingDelegate delegate_;
-    std::unique_ptr<GPSControlView> view_ = std::make_unique<GPSControlView>(settings_.utils());
 };
 
 std::vector<std::string> manyNames(const char* stem, int count) {

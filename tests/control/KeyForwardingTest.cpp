@@ -28,7 +28,7 @@ void sendKey(QWidget* to, QEvent::Type type, int key, Qt::KeyboardModifiers modi
     EXPECT_TRUE(event.isAccepted());
 }
 
-class GPSTableViewTest : public ::testing::Test {
+class GPSTableViewTest : public ControlViewTest {
 protected:
     GPSTableViewTest() {
         for (int row = 0; row < 3; ++row) model_.appendRow(new QStandardItem(QStringLiteral("clip %1").arg(row)));
@@ -36,8 +36,7 @@ protected:
         table_->setSelectionMode(QAbstractItemView::SingleSelection);
         table_->setSelectionBehavior(QAbstractItemView::SelectRows);
         table_->setCurrentIndex(model_.index(1, 0));
-        table_->setControlView(control_.get());
-        control_->setDelegate(&delegate_);
+        table_->setControlView(view_.get());
         layout_->addWidget(table_);
     }
 
@@ -46,13 +45,10 @@ protected:
         return rows.size() == 1 ? rows.front().row() : -1;
     }
 
-    ProbedSettings settings_;
-    RecordingDelegate delegate_;
     QStandardItemModel model_;
     // The key-handling view holds the table, as the window's central container does.
-    std::unique_ptr<GPSControlView> control_ = std::make_unique<GPSControlView>(settings_.utils());
-    QVBoxLayout* layout_ = new QVBoxLayout(control_.get());
-    GPSTableView* table_ = new GPSTableView(control_.get());
+    QVBoxLayout* layout_ = new QVBoxLayout(view_.get());
+    GPSTableView* table_ = new GPSTableView(view_.get());
 };
 
 TEST_F(GPSTableViewTest, MovesTheSelectionAndPassesEachKeyOnOnce) {
@@ -60,20 +56,20 @@ TEST_F(GPSTableViewTest, MovesTheSelectionAndPassesEachKeyOnOnce) {
     sendKey(table_, QEvent::KeyPress, Qt::Key_Up);
     EXPECT_EQ(selectedRow(), 0);
     sendKey(table_, QEvent::KeyPress, Qt::Key_Control);
-    EXPECT_EQ(control_->keyStatus(), ModifierState::kCommandBit);
+    EXPECT_EQ(view_->keyStatus(), ModifierState::kCommandBit);
     sendKey(table_, QEvent::KeyPress, Qt::Key_Right, Qt::ControlModifier);
     sendKey(table_, QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
-    EXPECT_EQ(control_->keyStatus(), 0u);
+    EXPECT_EQ(view_->keyStatus(), 0u);
     // A key the table ignores would otherwise also climb to its parent, the key-handling view.
     sendKey(table_, QEvent::KeyPress, Qt::Key_F1);
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlVolumeUp, GPSPlayControlNext, GPSPlayControlNone}));
-    EXPECT_EQ(delegate_.senders.front(), control_.get());
+    EXPECT_EQ(delegate_.senders.front(), view_.get());
 }
 
 TEST_F(GPSTableViewTest, TakesTheKeysOfTheControlViewFromMenuShortcutsWhereverItSits) {
     // Out of the key-handling view's children, the override cannot climb to it.
     GPSTableView table;
-    table.setControlView(control_.get());
+    table.setControlView(view_.get());
     for (const auto& [key, modifiers, taken] :
          {std::tuple{Qt::Key_Space, Qt::NoModifier, true}, std::tuple{Qt::Key_Left, Qt::ControlModifier, true},
           std::tuple{Qt::Key_O, Qt::ControlModifier, false}}) {
@@ -97,13 +93,12 @@ protected:
     }
 };
 
-class GPSPlayerViewKeysTest : public ::testing::Test {
+class GPSPlayerViewKeysTest : public ControlViewTest {
 protected:
     GPSPlayerViewKeysTest() {
         player_ = new GPSPlayerView(nullptr, {}, std::make_unique<QtUpdateTimer>(), settings_.utils(), &window_);
         layout_->addWidget(player_);
-        player_->setControlView(control_.get());
-        control_->setDelegate(&delegate_);
+        player_->setControlView(view_.get());
         window_.resize(320, 240);
     }
     ~GPSPlayerViewKeysTest() override {
@@ -115,9 +110,6 @@ protected:
         QCoreApplication::sendEvent(player_, &event);
     }
 
-    ProbedSettings settings_;
-    RecordingDelegate delegate_;
-    std::unique_ptr<GPSControlView> control_ = std::make_unique<GPSControlView>(settings_.utils());
     WheelCounter window_;
     QVBoxLayout* layout_ = new QVBoxLayout(&window_);
     GPSPlayerView* player_ = nullptr;
@@ -125,14 +117,14 @@ protected:
 
 TEST_F(GPSPlayerViewKeysTest, PassesKeysAndModifiersOnButNotTheWheel) {
     sendKey(player_, QEvent::KeyPress, Qt::Key_Control);
-    EXPECT_EQ(control_->keyStatus(), ModifierState::kCommandBit);
+    EXPECT_EQ(view_->keyStatus(), ModifierState::kCommandBit);
     sendKey(player_, QEvent::KeyPress, Qt::Key_Left, Qt::ControlModifier);
     sendKey(player_, QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
-    EXPECT_EQ(control_->keyStatus(), 0u);
+    EXPECT_EQ(view_->keyStatus(), 0u);
     // Not in full screen, Escape is a key like any other: code 0.
     sendKey(player_, QEvent::KeyPress, Qt::Key_Escape);
     EXPECT_EQ(delegate_.codes, (std::vector<uint64_t>{GPSPlayControlPrev, GPSPlayControlNone}));
-    EXPECT_EQ(delegate_.senders.front(), control_.get());
+    EXPECT_EQ(delegate_.senders.front(), view_.get());
     QWheelEvent wheel(QPointF(10, 10), player_->mapToGlobal(QPointF(10, 10)), QPoint(), QPoint(0, 120), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(player_, &wheel);

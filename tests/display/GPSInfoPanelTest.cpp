@@ -38,13 +38,13 @@ GPSData readOutSample() {
 class GPSInfoPanelTest : public ::testing::Test {
 protected:
     GPSInfoPanelTest() {
+#define LABEL(name) \
+    { #name, &GPSInfoPanelLabels::name }
         const std::pair<const char*, QLabel * GPSInfoPanelLabels::*> members[] = {
-            {"txtSpeed", &GPSInfoPanelLabels::txtSpeed},         {"txtSpeedUnit", &GPSInfoPanelLabels::txtSpeedUnit},
-            {"lblLatitude", &GPSInfoPanelLabels::lblLatitude},   {"txtLatitude", &GPSInfoPanelLabels::txtLatitude},
-            {"lblLongitude", &GPSInfoPanelLabels::lblLongitude}, {"txtLongitude", &GPSInfoPanelLabels::txtLongitude},
-            {"lblDate", &GPSInfoPanelLabels::lblDate},           {"txtDate", &GPSInfoPanelLabels::txtDate},
-            {"lblTime", &GPSInfoPanelLabels::lblTime},           {"txtTime", &GPSInfoPanelLabels::txtTime},
-            {"txtMapView", &GPSInfoPanelLabels::txtMapView}};
+            LABEL(txtSpeed),     LABEL(txtSpeedUnit), LABEL(lblLatitude), LABEL(txtLatitude),
+            LABEL(lblLongitude), LABEL(txtLongitude), LABEL(lblDate),     LABEL(txtDate),
+            LABEL(lblTime),      LABEL(txtTime),      LABEL(txtMapView)};
+#undef LABEL
         for (const auto& [name, member] : members)
             outlets_.*member = labels_[name] =
                 new QLabel(QStringLiteral("layout %1").arg(QLatin1String(name)), &window_);

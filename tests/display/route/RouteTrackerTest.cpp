@@ -1,3 +1,4 @@
+#include "RouteTimestamp.h"
 #include "RouteTracker.h"
 #include "TimeZoneGuard.h"
 
@@ -27,16 +28,13 @@ public:
         lastRegion = region, ++regionCalls;
     }
     void setCenterCoordinate(Coordinate coordinate) override { center = coordinate, ++centerCalls; }
-    void logIntake(const std::string& newText, const std::string& lastText) override {
-        log.push_back("new = " + newText + ", last = " + lastText);
-    }
+    void logIntake(const std::string&, const std::string&) override {}  // a diagnostic only
 
     std::set<std::shared_ptr<const Polyline>> onMap;
     std::optional<Coordinate> marker, center;
     std::string markerTitle;
     std::optional<CoordinateRegion> lastRegion;
     int markerMoves = 0, regionCalls = 0, centerCalls = 0;
-    std::vector<std::string> log;
 };
 
 // A raw record in the cameras' fixed-point form recorded `second` seconds after 2023-05-07 10:00:00.
@@ -130,13 +128,6 @@ TEST_F(RouteTrackerTest, NormalPlaybackTakesEveryThirdSampleAsOneLineAndASeekFor
     EXPECT_EQ(map.markerMoves, 10);
     EXPECT_EQ(map.marker, coordinateOf(sampleAt(10)));
     EXPECT_EQ(map.markerTitle, "Car");
-
-    EXPECT_EQ(map.log, (std::vector<std::string>{
-                           "new = 2023-05-07 10:00:04 AM, last = 2023-05-07 10:00:01 AM",
-                           "new = 2023-05-07 10:00:07 AM, last = 2023-05-07 10:00:04 AM",
-                           "new = 2023-05-07 10:00:10 AM, last = 2023-05-07 10:00:07 AM",
-                       }));
-
     // A seek forward past the gap starts a one-point line and leaves the first one as it was drawn.
     const auto firstLine = tracker.polylineOverlays().front();
     play(40, 40);
@@ -189,7 +180,6 @@ TEST_F(RouteTrackerTest, CutBackBeforeEveryPointEmptiesTheRoute) {
     tracker.showCarLocation(sampleAt(2), 13, map);
     EXPECT_EQ(routeSeconds(tracker), (std::vector<int>{2}));
     expectMapShowsTheRoute();
-    EXPECT_EQ(map.log.size(), 3u) << "an intake into an empty route logs nothing";
 }
 
 TEST_F(RouteTrackerTest, SplitsWhereRecordingTimeJumps) {
@@ -290,6 +280,47 @@ TEST_F(RouteTrackerTest, IncrementalDrawingMatchesAFullRedraw) {
         expectMapShowsTheRoute();
         for (size_t i = 1; i < points.size(); ++i) EXPECT_LE(secondOf(points[i - 1]), secondOf(points[i]));
     }
+}
+
+RMCINFO fields(uint32_t year, uint32_t month, uint32_t day, uint32_t hour, uint32_t minute, uint32_t second) {
+    RMCINFO f;
+    f.Year = year, f.Month = month, f.Day = day, f.Hour = hour, f.Minute = minute, f.Second = second;
+    return f;
+}
+
+TEST(RouteTimestamp, TextAndInstantOfTheRecordedFields) {
+    const TimeZoneGuard utc{"UTC0"};
+    const struct {
+        const char* name;
+        RMCINFO fields;
+        const char* text;
+        double timestamp;  // seconds since 1970 UTC; 0 for no date
+    } cases[] = {
+        {"afternoon", fields(23, 5, 7, 14, 3, 9), "2023-05-07 02:03:09 PM", 1683468189},
+        {"two-digit year", fields(5, 1, 1, 0, 0, 0), "2005-01-01 00:00:00 AM", 1104537600},
+        {"three-digit year kept", fields(150, 3, 4, 5, 6, 7), "0150-03-04 05:06:07 AM", -57428247233.0},
+        {"four-digit year kept", fields(9999, 12, 31, 23, 59, 59), "9999-12-31 11:59:59 PM", 253402300799.0},
+        {"five-digit year", fields(10000, 1, 1, 0, 0, 0), "10000-01-01 00:00:00 AM", 0},
+        {"noon", fields(23, 5, 7, 12, 0, 0), "2023-05-07 00:00:00 PM", 1683460800},
+        {"hour 24 reads as noon", fields(23, 5, 7, 24, 0, 0), "2023-05-07 00:00:00 PM", 1683460800},
+        {"leap day", fields(24, 2, 29, 8, 0, 0), "2024-02-29 08:00:00 AM", 1709193600},
+        {"leap day of a common year", fields(23, 2, 29, 8, 0, 0), "2023-02-29 08:00:00 AM", 0},
+        {"month 0", fields(23, 0, 7, 8, 0, 0), "2023-00-07 08:00:00 AM", 0},
+        {"day 0", fields(23, 5, 0, 8, 0, 0), "2023-05-00 08:00:00 AM", 0},
+        {"second 60", fields(23, 5, 7, 8, 0, 60), "2023-05-07 08:00:60 AM", 0},
+        {"huge month prints negative", fields(23, 0xFFFFFFFFu, 7, 8, 0, 0), "2023--1-07 08:00:00 AM", 0},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(routeDateText(c.fields), c.text) << c.name;
+        EXPECT_EQ(routeTimestamp(c.fields), c.timestamp) << c.name;
+    }
+}
+
+// The recorded time is local time of the user's zone, summer time included.
+TEST(RouteTimestamp, ReadsTheFieldsAsLocalTime) {
+    const TimeZoneGuard berlin{"CET-1CEST,M3.5.0,M10.5.0/3"};
+    EXPECT_EQ(routeTimestamp(fields(23, 7, 1, 12, 0, 0)), 1688205600);   // 10:00 UTC
+    EXPECT_EQ(routeTimestamp(fields(23, 1, 15, 12, 0, 0)), 1673780400);  // 11:00 UTC
 }
 
 }  // namespace
