@@ -62,6 +62,7 @@ TEST_F(ControllerTest, AddingToAnEmptyPlaylistPlaysTheFirstEntryAndLaterAddition
 
     controller.AddedMovies(nullptr, {movie(0)});
     EXPECT_EQ(factory->requested.size(), 1u) << "adding while a movie is loaded changes nothing that plays";
+    EXPECT_EQ(controller.playlist.size(), 4u) << "a movie added twice is listed twice";
     EXPECT_EQ(controller.curIndex, 0);
 }
 

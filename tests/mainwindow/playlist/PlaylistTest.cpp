@@ -78,18 +78,4 @@ TEST(PlaylistOrder, SortsByTheTwelveHourReadingThenByNameAndPutsEntriesWithoutTi
                                                       "clip_0002.MOV", "no-time-1", "no-time-2"}));
 }
 
-TEST(Playlist, AddSaysToPlayOnlyWhenAnEmptyListGetsEntriesAndKeepsDuplicates) {
-    const ScratchFolder folder;
-    const auto clip = folder.write("clip.mp4");
-    Playlist playlist;
-    EXPECT_FALSE(playlist.add(std::vector<std::filesystem::path>{}));
-    EXPECT_TRUE(playlist.add({clip, folder.path() / "gone.mp4", clip}));
-    EXPECT_EQ(paths(playlist.items()), (std::vector<std::string>{clip, clip, folder.path() / "gone.mp4"}));
-    EXPECT_FALSE(playlist.add({clip}));
-    EXPECT_FALSE(playlist.add(std::vector<std::filesystem::path>{}));
-    EXPECT_EQ(playlist.size(), 4u);
-    while (!playlist.empty()) playlist.removeAt(0);
-    EXPECT_TRUE(playlist.add({clip}));
-}
-
 }  // namespace
