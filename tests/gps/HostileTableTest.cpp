@@ -109,9 +109,9 @@ TEST(HostileTableTest, IndexOfOneValidBlockStopsAtTheTrackCeiling) {
 // A non-MP4 movie whose sound track's stco claims `payload` bytes and a huge count, every chunk
 // offset equal to `chunk`; the sound format puts blocks 32768 bytes after a chunk's start.
 Bytes chunkTableHead(uint64_t payload) {
-    const Bytes sound = concat({box("tkhd", tkhd(0, 0)), boxHeader("mdia", 0), boxHeader("minf", 0),
-                                boxHeader("stbl", 0), box("stsd", soundStsd(1, 16, 8000)),
-                                boxHeader("stco", payload), u32Pattern({0, kClaimedCount})});
+    const Bytes sound =
+        concat({box("tkhd", tkhd(0, 0)), boxHeader("mdia", 0), boxHeader("minf", 0), boxHeader("stbl", 0),
+                box("stsd", soundStsd(1, 16, 8000)), boxHeader("stco", payload), u32Pattern({0, kClaimedCount})});
     return concat({ftyp(20), boxHeader("moov", 0), boxHeader("trak", sound.size()), sound});
 }
 
