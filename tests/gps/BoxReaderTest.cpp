@@ -64,21 +64,6 @@ TEST(BoxReaderTest, BrokenSizesAndShortFilesEndTheScan) {
     EXPECT_FALSE(find(rawBox(4, "moov"), "moov").found());
 }
 
-TEST(BoxReaderTest, OnlyA28ByteFtypIsTheMp4Form) {
-    // Size 0: no ftyp at all.
-    for (const auto& [size, isMP4] : {std::pair<std::size_t, bool>{28, true}, {20, false}, {32, false}, {0, false}}) {
-        SCOPED_TRACE(size);
-        const Bytes movie = size == 0 ? box("moov") : concat({ftyp(size), box("moov")});
-        MemoryFile file(movie);
-        const FileRange range = GPSDataLoader::loadBox("ftyp", file, 0);
-        file.seek(100);
-        EXPECT_EQ(GPSDataLoader::IsMP4(file, range), isMP4);
-        if (range.found()) {
-            EXPECT_EQ(file.position(), range.location);
-        }
-    }
-}
-
 TEST(GPSHeaderTest, NeedsTheTagAndAZeroLastByte) {
     EXPECT_FALSE(GPSDataLoader::isGPSData(nullptr));
     const uint8_t good[16] = {0, 0, 0, 92, 'f', 'r', 'e', 'e', 'G', 'P', 'S', ' ', 0x11, 0x22, 0x33, 0};

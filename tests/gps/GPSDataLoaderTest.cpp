@@ -78,7 +78,8 @@ TEST(IndexLayoutTest, FtypLengthChoosesTheMp4Form) {
     EXPECT_EQ(latitudes(mp4), Texts(3, "22.50000"));
     EXPECT_EQ(mp4.formCounts[std::size_t(GPSRecordForm::MP4)], 3u);
 
-    const GPSTrack other = load(indexMovie(32, blocks));  // Year 16: the scaled form
+    EXPECT_FALSE(load(concat({box("moov"), box("gps ", gpsIndex({}, 0))})).isMP4);  // no ftyp at all
+    const GPSTrack other = load(indexMovie(32, blocks));                            // Year 16: the scaled form
     EXPECT_FALSE(other.isMP4);
     EXPECT_EQ(other.formCounts[std::size_t(GPSRecordForm::Scaled)], 3u);
     EXPECT_EQ(latitudes(other), Texts(3, "02.56079"));
