@@ -1,4 +1,3 @@
-#include "CsvTrackWriter.h"
 #include "JsonText.h"
 #include "NumberText.h"
 #include "SampleTime.h"
@@ -52,16 +51,6 @@ TEST(XmlText, EscapesMarkupAndReplacesWhatXmlCannotCarry) {
         {"invalid UTF-8", "caf\xE9", "caf\xEF\xBF\xBD"},
     };
     for (const EscapeCase& c : cases) EXPECT_EQ(xmlEscaped(c.input), c.expected) << c.what;
-}
-
-TEST(CsvField, QuotesOnlyWhatRfc4180Requires) {
-    const EscapeCase cases[] = {
-        {"plain", "my trip; day 1.mov", "my trip; day 1.mov"},
-        {"comma", "a,b", "\"a,b\""},
-        {"quote", "say \"hi\"", "\"say \"\"hi\"\"\""},
-        {"line breaks", "a\nb\rc", "\"a\nb\rc\""},
-    };
-    for (const EscapeCase& c : cases) EXPECT_EQ(CsvTrackWriter::field(c.input), c.expected) << c.what;
 }
 
 TEST(NumberText, EveryFiniteFloatReadsBackBitForBit) {
