@@ -30,8 +30,8 @@ TEST(FileNameBytes, AMovieWhoseNameIsNotUtf8IsReadAndNamedAsValidText) {
 
     const ProgramResult probe = runTool({"probe", movie});
     EXPECT_EQ(probe.exitCode, 0);
-    EXPECT_EQ(lines(probe.out), std::vector<std::string>{folder.path().string() +
-                                                         "/clip\\xff\\xfe.mov\tmovie\tindex\tfixed-point\t10"});
+    EXPECT_EQ(lines(probe.out),
+              std::vector<std::string>{folder.path().string() + "/clip\\xff\\xfe.mov\tmovie\tindex\tfixed-point\t10"});
 
     for (const char* format : {"json", "gpx", "kml", "geojson"}) {
         const ProgramResult run = runTool({"extract", "--format", format, movie, other});

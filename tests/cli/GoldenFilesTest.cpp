@@ -12,21 +12,6 @@
 
 namespace {
 
-struct GoldenCase {
-    const char* format;
-    SpeedUnit unit;
-    const char* file;
-};
-
-const GoldenCase kGoldenCases[] = {
-    {"json", SpeedUnit::MPH, "sample_movies.json"}, {"csv", SpeedUnit::KMH, "sample_movies_kmh.csv"},
-    {"gpx", SpeedUnit::MPH, "sample_movies.gpx"},   {"geojson", SpeedUnit::MPH, "sample_movies.geojson"},
-    {"kml", SpeedUnit::MPH, "sample_movies.kml"},
-};
-
-// Names the case by its file in failure messages.
-void PrintTo(const GoldenCase& golden, std::ostream* out) { *out << golden.file; }
-
 std::string readFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
     std::ostringstream text;
@@ -34,20 +19,25 @@ std::string readFile(const std::string& path) {
     return text.str();
 }
 
-class GoldenFiles : public testing::TestWithParam<GoldenCase> {};
-
-TEST_P(GoldenFiles, OutputMatchesTheCommittedDocument) {
-    const GoldenCase& golden = GetParam();
-    const std::string path = std::string(DASHTRACK_GOLDEN_DIR) + "/" + golden.file;
-    const std::string actual = render(golden.format, sampleMovies(), golden.unit);
-    if (std::getenv("DASHTRACK_UPDATE_GOLDEN")) {
-        std::ofstream(path, std::ios::binary) << actual;
-        GTEST_SKIP() << "rewrote " << path;
+TEST(GoldenFiles, OutputMatchesTheCommittedDocument) {
+    const struct {
+        const char* format;
+        SpeedUnit unit;
+        const char* file;
+    } cases[] = {
+        {"json", SpeedUnit::MPH, "sample_movies.json"}, {"csv", SpeedUnit::KMH, "sample_movies_kmh.csv"},
+        {"gpx", SpeedUnit::MPH, "sample_movies.gpx"},   {"geojson", SpeedUnit::MPH, "sample_movies.geojson"},
+        {"kml", SpeedUnit::MPH, "sample_movies.kml"},
+    };
+    for (const auto& golden : cases) {
+        const std::string path = std::string(DASHTRACK_GOLDEN_DIR) + "/" + golden.file;
+        const std::string actual = render(golden.format, sampleMovies(), golden.unit);
+        if (std::getenv("DASHTRACK_UPDATE_GOLDEN")) {
+            std::ofstream(path, std::ios::binary) << actual;
+            continue;
+        }
+        EXPECT_EQ(actual, readFile(path)) << "differs from " << path;
     }
-    EXPECT_EQ(actual, readFile(path)) << "differs from " << path;
 }
-
-INSTANTIATE_TEST_SUITE_P(Formats, GoldenFiles, testing::ValuesIn(kGoldenCases),
-                         [](const testing::TestParamInfo<GoldenCase>& info) { return std::string(info.param.format); });
 
 }  // namespace

@@ -7,18 +7,16 @@
 #include <algorithm>
 #include <bit>
 #include <sstream>
+#include <tuple>
 
 GPSData fixedPointSample(int32_t latitude, int32_t longitude, uint32_t centimetresPerSecond, RecordTime time) {
     GPSDATA raw;
-    raw.rmcinfo.Year = time.year;
-    raw.rmcinfo.Month = time.month;
-    raw.rmcinfo.Day = time.day;
-    raw.rmcinfo.Hour = time.hour;
-    raw.rmcinfo.Minute = time.minute;
-    raw.rmcinfo.Second = time.second;
-    raw.rmcinfo.Latitude = std::bit_cast<float>(latitude);
-    raw.rmcinfo.Longitude = std::bit_cast<float>(longitude);
-    raw.rmcinfo.Speed = std::bit_cast<float>(centimetresPerSecond);
+    RMCINFO& f = raw.rmcinfo;
+    std::tie(f.Year, f.Month, f.Day, f.Hour, f.Minute, f.Second) =
+        std::tie(time.year, time.month, time.day, time.hour, time.minute, time.second);
+    f.Latitude = std::bit_cast<float>(latitude);
+    f.Longitude = std::bit_cast<float>(longitude);
+    f.Speed = std::bit_cast<float>(centimetresPerSecond);
     GPSData sample;
     sample.SetData(raw, false);
     return sample;
@@ -26,14 +24,9 @@ GPSData fixedPointSample(int32_t latitude, int32_t longitude, uint32_t centimetr
 
 GPSData scaledSample(float latitude, float longitude, float speed, char ns, char ew) {
     GPSDATA raw;
-    raw.rmcinfo.Year = 16;
-    raw.rmcinfo.Month = 1;
-    raw.rmcinfo.Day = 2;
-    raw.rmcinfo.NSInd = ns;
-    raw.rmcinfo.EWInd = ew;
-    raw.rmcinfo.Latitude = latitude;
-    raw.rmcinfo.Longitude = longitude;
-    raw.rmcinfo.Speed = speed;
+    RMCINFO& f = raw.rmcinfo;
+    std::tie(f.Year, f.Month, f.Day, f.NSInd, f.EWInd) = std::tuple(16, 1, 2, ns, ew);
+    std::tie(f.Latitude, f.Longitude, f.Speed) = std::tie(latitude, longitude, speed);
     GPSData sample;
     sample.SetData(raw, false);
     return sample;

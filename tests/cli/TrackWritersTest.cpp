@@ -4,25 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
-#include <charconv>
-#include <cmath>
 #include <limits>
 #include <sstream>
 
 namespace {
-
-// The numbers that follow each "name": in the text, read back as a consumer would.
-std::vector<float> numbersAfter(const std::string& text, const std::string& name) {
-    std::vector<float> numbers;
-    const std::string key = "\"" + name + "\": ";
-    for (std::size_t at = text.find(key); at != std::string::npos; at = text.find(key, at + 1)) {
-        float value = std::numeric_limits<float>::quiet_NaN();
-        std::from_chars(text.data() + at + key.size(), text.data() + text.size(), value);
-        numbers.push_back(value);
-    }
-    return numbers;
-}
 
 // True when word stands outside a quoted string, as a number would; the read-out texts, quoted,
 // may hold it padded ("    nan", " -inf").
@@ -33,28 +18,6 @@ bool hasBareWord(const std::string& text, std::string_view word) {
         if (before == 0 || text[before - 1] != '"') return true;
     }
     return false;
-}
-
-TEST(JsonTrackWriter, SampleNumbersReadBackAsTheStoredFloats) {
-    std::vector<GPSData> samples;
-    uint32_t seed = 12345;
-    const auto next = [&] { return seed = seed * 1664525u + 1013904223u; };
-    for (int i = 0; i < 300; ++i)
-        samples.push_back(fixedPointSample(int32_t(next() % 1800000001u) - 900000000,
-                                           int32_t(next() % 3600000001u - 1800000000u), next() % 9000));
-    samples.push_back(fixedPointSample(1, -7, 1));                // 1e-07: the shortest form has an exponent
-    samples.push_back(scaledSample(0.0f, 0.0f, 0.0f, 'S', 'W'));  // negative zero
-
-    const std::string json = render("json", {{"a.mov", trackOf(samples)}});
-    const std::pair<const char*, float (GPSData::*)() const> fields[] = {
-        {"latitude", &GPSData::Latitude}, {"longitude", &GPSData::Longitude}, {"speed", &GPSData::SpeedMPH}};
-    for (const auto& [name, getter] : fields) {
-        const std::vector<float> printed = numbersAfter(json, name);
-        ASSERT_EQ(printed.size(), samples.size()) << name;
-        for (std::size_t i = 0; i < samples.size(); ++i)
-            EXPECT_EQ(std::bit_cast<uint32_t>(printed[i]), std::bit_cast<uint32_t>((samples[i].*getter)()))
-                << name << i;
-    }
 }
 
 TEST(TrackWriters, DocumentsStayWholeWhenNoFileCouldBeRead) {

@@ -25,9 +25,7 @@ Bytes indexMovie(std::size_t ftypSize, const std::vector<Bytes>& blocks, std::op
 }
 
 struct SoundFormat {
-    uint16_t channels;
-    uint16_t bits;
-    uint16_t rate;
+    uint16_t channels, bits, rate;
     uint32_t gpsOffset;
 };
 
@@ -80,7 +78,8 @@ TEST(IndexLayoutTest, FtypLengthChoosesTheMp4Form) {
     EXPECT_EQ(latitudes(mp4), Texts(3, "22.50000"));
     EXPECT_EQ(mp4.formCounts[std::size_t(GPSRecordForm::MP4)], 3u);
 
-    const GPSTrack other = load(indexMovie(32, blocks));  // Year 16: the scaled form
+    EXPECT_FALSE(load(concat({box("moov"), box("gps ", gpsIndex({}, 0))})).isMP4);  // no ftyp at all
+    const GPSTrack other = load(indexMovie(32, blocks));                            // Year 16: the scaled form
     EXPECT_FALSE(other.isMP4);
     EXPECT_EQ(other.formCounts[std::size_t(GPSRecordForm::Scaled)], 3u);
     EXPECT_EQ(latitudes(other), Texts(3, "02.56079"));
@@ -112,10 +111,8 @@ TEST(IndexLayoutTest, BlocksOutsideTheFileAreSkipped) {
                                 Bytes(block.begin(), block.begin() + 90)});
     EXPECT_TRUE(load(movie).samples.empty());
     EXPECT_EQ(load(concat({movie, Bytes{0, 0}})).samples.size(), 1u);  // two bytes more make it whole
-}
-
-TEST(IndexLayoutTest, IndexShorterThanItsHeaderGivesNothing) {
-    EXPECT_EQ(load(concat({ftyp(20), box("moov"), box("gps ", Bytes(6, 0xFF))})).samples.size(), 0u);
+    // An index shorter than its own header.
+    EXPECT_TRUE(load(concat({ftyp(20), box("moov"), box("gps ", Bytes(6, 0xFF))})).samples.empty());
 }
 
 TEST(IndexLayoutTest, MaximumSpeedIsTheLargestStoredSpeed) {
@@ -125,26 +122,17 @@ TEST(IndexLayoutTest, MaximumSpeedIsTheLargestStoredSpeed) {
     EXPECT_EQ(load(indexMovie(28, {block(-500), block(7)})).maxSpeed, 200.0f);  // the stored speed is capped
 }
 
-void PrintTo(const SoundFormat& f, std::ostream* out) {
-    *out << f.channels << "x" << f.bits << "-bit " << f.rate << " Hz";
-}
-
-class SoundChunkLayoutTest : public testing::TestWithParam<SoundFormat> {};
-
-TEST_P(SoundChunkLayoutTest, FindsABlockAfterEverySoundChunk) {
-    const GPSTrack track = load(soundChunkMovie(GetParam(), {fixedBlock(10000000), fixedBlock(20000000)}));
-    EXPECT_EQ(track.layout, GPSLayout::SoundChunk);
-    EXPECT_EQ(latitudes(track), (Texts{"01.00000", "02.00000"}));
-}
-
-INSTANTIATE_TEST_SUITE_P(Formats, SoundChunkLayoutTest,
-                         testing::Values(SoundFormat{1, 16, 8000, 32768}, SoundFormat{1, 16, 22050, 65536},
-                                         SoundFormat{2, 16, 48000, 196608}, SoundFormat{1, 16, 32768, 98304},
-                                         SoundFormat{1, 8, 8000, 32768}));
-
-TEST(SoundChunkLayoutTest, ChunkTableAsFarAsItGoes) {
-    const SoundFormat format{1, 16, 8000, 32768};
+TEST(SoundChunkLayoutTest, FindsABlockAfterEverySoundChunk) {
     const std::vector<Bytes> blocks{fixedBlock(10000000), fixedBlock(20000000)};
+    for (const SoundFormat& format :
+         {SoundFormat{1, 16, 8000, 32768}, SoundFormat{1, 16, 22050, 65536}, SoundFormat{2, 16, 48000, 196608},
+          SoundFormat{1, 16, 32768, 98304}, SoundFormat{1, 8, 8000, 32768}}) {
+        const GPSTrack track = load(soundChunkMovie(format, blocks));
+        EXPECT_EQ(track.layout, GPSLayout::SoundChunk) << format.rate;
+        EXPECT_EQ(latitudes(track), (Texts{"01.00000", "02.00000"})) << format.rate;
+    }
+    // The chunk table as far as its count goes.
+    const SoundFormat format{1, 16, 8000, 32768};
     EXPECT_TRUE(load(soundChunkMovie(format, blocks, 20, 0)).samples.empty());
     EXPECT_EQ(load(soundChunkMovie(format, blocks, 20, 1)).samples.size(), 1u);
     EXPECT_EQ(load(soundChunkMovie(format, blocks, 20, 0x40000000)).samples.size(), 2u);
@@ -169,7 +157,7 @@ TEST(SoundChunkLayoutTest, TrackWithoutHeaderIsSkipped) {
     EXPECT_EQ(latitudes(track), (Texts{"01.00000"}));
 }
 
-TEST(LoadGPSDataListTest, UnopenableFilesGiveAnEmptyTrackAndZero) {
+TEST(LoadGPSDataListTest, UnopenableAndSpecialFilesGiveAnEmptyTrackWithoutBlocking) {
     const std::filesystem::path tmp = std::filesystem::temp_directory_path();
     for (const auto& path : {tmp / "dashtrack-no-such-file.mov", tmp}) {
         float maxSpeed = 99;
@@ -178,15 +166,12 @@ TEST(LoadGPSDataListTest, UnopenableFilesGiveAnEmptyTrackAndZero) {
         EXPECT_NE(GPSDataLoader::LoadTrack(path).openError, 0);
     }
     EXPECT_TRUE(GPSDataLoader::LoadGPSDataList(tmp, nullptr).empty());
-}
-
-TEST(LoadGPSDataListTest, SpecialFilesAreRefusedWithoutBlocking) {
     const std::filesystem::path fifo = std::filesystem::temp_directory_path() / "dashtrack-loader-test.fifo";
     std::filesystem::remove(fifo);
     ASSERT_EQ(mkfifo(fifo.c_str(), 0600), 0);
     EXPECT_EQ(GPSDataLoader::LoadTrack(fifo).openError, EINVAL);
     EXPECT_EQ(GPSDataLoader::LoadTrack("/dev/null").openError, EINVAL);
-    EXPECT_EQ(GPSDataLoader::LoadTrack(std::filesystem::temp_directory_path()).openError, EISDIR);
+    EXPECT_EQ(GPSDataLoader::LoadTrack(tmp).openError, EISDIR);
     std::filesystem::remove(fifo);
 }
 

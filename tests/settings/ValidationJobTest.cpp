@@ -1,10 +1,9 @@
 #include "FFmpegVideoTrackProbe.h"
-#include "GatedProbe.h"
 #include "GPSUtils.h"
+#include "GatedProbe.h"
 #include "ValidationJob.h"
 
 #include <gtest/gtest.h>
-
 
 namespace {
 

@@ -1,5 +1,5 @@
 #pragma once
-// A fresh directory for one test, removed with everything in it afterwards (also used by the cli tests).
+// A fresh directory for one test, removed with everything in it afterwards (also used by the cli and settings tests).
 
 #include <cstdlib>
 #include <filesystem>

@@ -16,14 +16,12 @@
 #include <set>
 
 namespace {
-
 // Tiles held in memory by the test; every request is recorded.
 class FakeTileProvider : public TileProvider {
 public:
     std::map<TileId, QImage> tiles;
     std::set<TileId> requested;
     QString attributionText;
-
     QImage tile(const TileId& id) override {
         requested.insert(id);
         const auto it = tiles.find(id);
@@ -51,7 +49,6 @@ QImage solid(QColor color) {
     image.fill(color);
     return image;
 }
-
 QImage paint(MapView& view) {
     QImage image(view.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::black);
@@ -59,18 +56,15 @@ QImage paint(MapView& view) {
     view.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
     return image;
 }
-
 // The region of the whole world's equator band that makes a 400-pixel-wide view show zoom z.
-CoordinateRegion regionAtZoom(Coordinate center, int z) {
-    return {center, {0, 360.0 * 400 / (256.0 * (1 << z))}};
+CoordinateRegion regionAtZoom(Coordinate center, int z) { return {center, {0, 360.0 * 400 / (256.0 * (1 << z))}}; }
+void expectCentre(const MapView& view, Coordinate c) {
+    EXPECT_NEAR(view.centerCoordinate().latitude, c.latitude, 1e-9);
+    EXPECT_NEAR(view.centerCoordinate().longitude, c.longitude, 1e-9);
 }
-
-bool isRed(QColor c) {
-    return c.red() > 200 && c.green() < 60 && c.blue() < 60;
-}
-
-std::shared_ptr<const Polyline> line(std::vector<Coordinate> points) {
-    return std::make_shared<const Polyline>(Polyline{std::move(points)});
+bool isRed(QColor c) { return c.red() > 200 && c.green() < 60 && c.blue() < 60; }
+std::shared_ptr<const Polyline> line(std::vector<Coordinate> p) {
+    return std::make_shared<const Polyline>(Polyline{std::move(p)});
 }
 
 class MapViewTest : public ::testing::Test {
@@ -80,7 +74,6 @@ protected:
         view.setTileProvider(&provider);
         view.setDelegate(&delegate);
     }
-    // Where the map now puts coordinates.
     MapPainter painter() const { return MapPainter(view.centerCoordinate(), view.zoomLevel(), view.size(), 256); }
 
     FakeTileProvider provider;
@@ -97,7 +90,6 @@ TEST_F(MapViewTest, DrawsALineWhereItsPointsProject) {
     view.addOverlay(line({{48.8566, 2.3552}}));
     EXPECT_EQ(delegate.overlaysAsked, 2);
     const QImage image = paint(view);
-
     EXPECT_TRUE(isRed(image.pixelColor(200, 150)));
     EXPECT_TRUE(isRed(image.pixelColor(200, 120)));
     EXPECT_FALSE(isRed(image.pixelColor(206, 150)));  // 4 points wide: 2 either side
@@ -107,69 +99,67 @@ TEST_F(MapViewTest, DrawsALineWhereItsPointsProject) {
     EXPECT_TRUE(isRed(image.pixelColor(dot.toPoint())));
 }
 
-TEST_F(MapViewTest, LinesWithoutARendererAreBlue) {
-    view.setDelegate(nullptr);
-    view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
-    view.addOverlay(line({{-0.003, 0}, {0.003, 0}}));
-    const QColor c = paint(view).pixelColor(200, 150);
-    EXPECT_GT(c.blue(), 200);
-    EXPECT_LT(c.red(), 60);
-}
-
-TEST_F(MapViewTest, RemovesOnlyTheListedOverlays) {
+TEST_F(MapViewTest, RemovesOnlyTheListedOverlaysAndDrawsUnstyledOnesBlue) {
     view.setRegion(regionMakeWithDistance({0, 0}, 1000, 1000), false);
     const auto west = line({{-0.003, -0.002}, {0.003, -0.002}});
-    const auto middle = line({{-0.003, 0}, {0.003, 0}});
     const auto east = line({{-0.003, 0.002}, {0.003, 0.002}});
+    const auto middle = line({{-0.003, 0}, {0.003, 0}});
     for (const auto& l : {west, middle, east}) view.addOverlay(l);
     view.removeOverlays({west, east, line({{0, 0}})});
     EXPECT_EQ(view.overlayCount(), 1u);
-
     const MapPainter frame = painter();
     const QImage image = paint(view);
     EXPECT_TRUE(isRed(image.pixelColor(frame.toWidget({0, 0}).toPoint())));
     EXPECT_FALSE(isRed(image.pixelColor(frame.toWidget({0, -0.002}).toPoint())));
     EXPECT_FALSE(isRed(image.pixelColor(frame.toWidget({0, 0.002}).toPoint())));
-    view.removeOverlays({});
     view.removeOverlays({west});
     EXPECT_EQ(view.overlayCount(), 1u);
+    // Lines added without a delegate to style them are blue.
+    view.removeOverlays({middle});
+    view.setDelegate(nullptr);
+    view.addOverlay(middle);
+    const QColor c = paint(view).pixelColor(200, 150);
+    EXPECT_GT(c.blue(), 200);
+    EXPECT_LT(c.red(), 60);
 }
 
-TEST_F(MapViewTest, DrawsTheTilesInView) {
-    // At zoom 2 around (0, 0) the 400x300 view shows columns 1-2 and rows 1-2.
-    provider.tiles[{2, 1, 1}] = solid(Qt::green);
-    provider.tiles[{2, 2, 2}] = solid(Qt::blue);
-    view.setRegion(regionAtZoom({0, 0}, 2), false);
-    ASSERT_NEAR(view.zoomLevel(), 2, 1e-9);
-    const QImage image = paint(view);
-    EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::green));
-    EXPECT_EQ(image.pixelColor(300, 200), QColor(Qt::blue));
-    // No tile for (2, 1, 2): the grid's background shows.
-    EXPECT_NE(image.pixelColor(100, 200), QColor(Qt::black));
-    EXPECT_NE(image.pixelColor(100, 200), QColor(Qt::green));
-    const std::set<TileId> window{{2, 1, 1}, {2, 2, 1}, {2, 1, 2}, {2, 2, 2}};
-    EXPECT_EQ(provider.requested, window);
-}
-
-TEST_F(MapViewTest, AMissingTileIsStoodInForByAScaledLowerZoomTile) {
+TEST_F(MapViewTest, DrawsTheTilesInViewAndStandsInForMissingOnes) {
     // Tile (1, 0, 0) seen first; its south-east quarter is (2, 1, 1).
     QImage parent = solid(Qt::gray);
     QPainter(&parent).fillRect(128, 128, 128, 128, Qt::magenta);
     provider.tiles[{1, 0, 0}] = parent;
     view.setRegion(regionAtZoom({0, 0}, 1), false);
     paint(view);
-
     provider.requested.clear();
+    // At zoom 2 around (0, 0) the 400x300 view shows columns 1-2 and rows 1-2.
+    provider.tiles[{2, 2, 2}] = solid(Qt::blue);
     view.setRegion(regionAtZoom({0, 0}, 2), false);
-    const QImage image = paint(view);
+    QImage image = paint(view);
     EXPECT_EQ(image.pixelColor(100, 100), QColor(Qt::magenta));
+    EXPECT_EQ(image.pixelColor(300, 200), QColor(Qt::blue));
+    // No tile and no stand-in for (2, 1, 2): the grid's background shows.
+    EXPECT_NE(image.pixelColor(100, 200), QColor(Qt::black));
+    EXPECT_NE(image.pixelColor(100, 200), QColor(Qt::magenta));
     // Only the tiles in view are asked for, not their stand-ins.
-    for (const TileId& id : provider.requested) EXPECT_EQ(id.z, 2);
-
+    EXPECT_EQ(provider.requested, (std::set<TileId>{{2, 1, 1}, {2, 2, 1}, {2, 1, 2}, {2, 2, 2}}));
     // A tile that arrives replaces its stand-in.
     provider.tiles[{2, 1, 1}] = solid(Qt::green);
     emit provider.tileReady({2, 1, 1});
     EXPECT_EQ(paint(view).pixelColor(100, 100), QColor(Qt::green));
+}
+
+TEST(MapView, ForgetsAProviderThatIsDestroyed) {
+    MapView view;
+    view.resize(400, 300);
+    {
+        FakeTileProvider provider;
+        provider.tiles[{2, 1, 1}] = solid(Qt::green);
+        view.setTileProvider(&provider);
+        view.setRegion(regionAtZoom({0, 0}, 2), false);
+        paint(view);
+    }
+    EXPECT_EQ(view.tileProvider(), nullptr);
+    EXPECT_NE(paint(view).pixelColor(100, 100), QColor(Qt::green));
 }
 
 TEST_F(MapViewTest, PaintsTheAttributionInTheCorner) {
@@ -177,36 +167,11 @@ TEST_F(MapViewTest, PaintsTheAttributionInTheCorner) {
     const QImage without = paint(view);
     provider.attributionText = QStringLiteral("\u00A9 Test contributors");
     const QImage with = paint(view);
-    const QRect corner(300, 285, 100, 15);
     int differing = 0;
-    for (int y = corner.top(); y <= corner.bottom(); ++y)
-        for (int x = corner.left(); x <= corner.right(); ++x) differing += without.pixel(x, y) != with.pixel(x, y);
+    for (int y = 285; y < 300; ++y)
+        for (int x = 300; x < 400; ++x) differing += without.pixel(x, y) != with.pixel(x, y);
     EXPECT_GT(differing, 50);
-    // Nothing changes elsewhere.
     EXPECT_EQ(without.copy(0, 0, 400, 200), with.copy(0, 0, 400, 200));
-}
-
-TEST_F(MapViewTest, SettingTheCentreKeepsTheZoom) {
-    view.setRegion(regionMakeWithDistance({59.91, 10.75}, 1000, 1000), false);
-    const double zoom = view.zoomLevel();
-    view.setCenterCoordinate({60.0, 11.0});
-    EXPECT_EQ(view.zoomLevel(), zoom);
-    EXPECT_NEAR(view.centerCoordinate().latitude, 60.0, 1e-9);
-    EXPECT_NEAR(view.centerCoordinate().longitude, 11.0, 1e-9);
-    view.setCenterCoordinate({NAN, 3});
-    EXPECT_NEAR(view.centerCoordinate().latitude, 60.0, 1e-9);
-}
-
-TEST_F(MapViewTest, RegionReportsWhatIsShown) {
-    view.setAttribute(Qt::WA_DontShowOnScreen);
-    view.show();
-    const CoordinateRegion wanted = regionMakeWithDistance({0, 0}, 1000, 1000);
-    view.setRegion(wanted, false);
-    const CoordinateRegion shown = view.region();
-    // The height decides in a wide widget; the width shows more.
-    EXPECT_NEAR(shown.span.latitudeDelta, wanted.span.latitudeDelta, 1e-7);
-    EXPECT_NEAR(shown.span.longitudeDelta, wanted.span.longitudeDelta * 4 / 3, 1e-4);
-    EXPECT_EQ(shown.center, wanted.center);
 }
 
 TEST(MapView, ARegionSetBeforeTheWidgetHasASizeIsFittedLater) {
@@ -219,8 +184,11 @@ TEST(MapView, ARegionSetBeforeTheWidgetHasASizeIsFittedLater) {
     view.setAttribute(Qt::WA_DontShowOnScreen);
     view.show();
     QApplication::processEvents();
-    EXPECT_NEAR(view.region().span.latitudeDelta, wanted.span.latitudeDelta, 1e-7);
-    EXPECT_NEAR(view.centerCoordinate().latitude, 10, 1e-9);
+    // The height decides in a wide widget; the width shows more.
+    const CoordinateRegion shown = view.region();
+    EXPECT_NEAR(shown.span.latitudeDelta, wanted.span.latitudeDelta, 1e-7);
+    EXPECT_NEAR(shown.span.longitudeDelta, wanted.span.longitudeDelta * 4 / 3, 1e-4);
+    EXPECT_NEAR(shown.center.latitude, 10, 1e-9);
 }
 
 TEST_F(MapViewTest, ZoomingKeepsThePointUnderThePointer) {
@@ -230,25 +198,10 @@ TEST_F(MapViewTest, ZoomingKeepsThePointUnderThePointer) {
     const double zoom = view.zoomLevel();
     view.zoomAbout(pointer, 1.5, false);
     EXPECT_NEAR(view.zoomLevel(), zoom + 1.5, 1e-9);
-    const Coordinate after = painter().toCoordinate(pointer);
-    EXPECT_NEAR(after.latitude, before.latitude, 1e-9);
-    EXPECT_NEAR(after.longitude, before.longitude, 1e-9);
+    EXPECT_NEAR(painter().toCoordinate(pointer).latitude, before.latitude, 1e-9);
+    EXPECT_NEAR(painter().toCoordinate(pointer).longitude, before.longitude, 1e-9);
     view.zoomAbout(pointer, 100, false);
     EXPECT_EQ(view.zoomLevel(), 19);
-}
-
-TEST_F(MapViewTest, DraggingPansTheMap) {
-    view.setRegion(regionAtZoom({0, 0}, 4), false);
-    const auto send = [&](QEvent::Type type, QPointF at, Qt::MouseButtons buttons) {
-        QMouseEvent event(type, at, view.mapToGlobal(at), Qt::LeftButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&view, &event);
-    };
-    send(QEvent::MouseButtonPress, {200, 150}, Qt::LeftButton);
-    send(QEvent::MouseMove, {100, 150}, Qt::LeftButton);
-    send(QEvent::MouseButtonRelease, {100, 150}, Qt::NoButton);
-    // 100 pixels at zoom 4 (4096 pixels round the world) is 100/4096 of 360 degrees, eastwards.
-    EXPECT_NEAR(view.centerCoordinate().longitude, 100.0 / 4096 * 360, 1e-9);
-    EXPECT_NEAR(view.centerCoordinate().latitude, 0, 1e-9);
 }
 
 TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
@@ -263,17 +216,14 @@ TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
     const QPointF at = painter().toWidget(car->coordinate);
     EXPECT_NEAR(own->geometry().center().x() + 0.5, at.x(), 1.0);
     EXPECT_NEAR(own->geometry().center().y() + 0.5, at.y(), 1.0);
-
-    // Moving the map moves the marker.
     view.setCenterCoordinate({0.001, 0.001});
     EXPECT_NEAR(own->geometry().center().x() + 0.5, 200, 1.0);
 
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), own->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                      Qt::LeftButton, Qt::NoModifier);
-    QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), own->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                        Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(own, &press);
-    QApplication::sendEvent(own, &release);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, QPointF(5, 5), own->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(own, &event);
+    }
     EXPECT_FALSE(view.callout()->isHidden());
     EXPECT_EQ(view.callout()->text(), QStringLiteral("Car"));
 
@@ -303,68 +253,29 @@ TEST_F(MapViewTest, TheCentreButtonAsksForTheCarAndCentresOnIt) {
     ASSERT_NE(centre, nullptr);
     centre->click();
     EXPECT_EQ(requests, 1);
-    EXPECT_NEAR(view.centerCoordinate().latitude, 1, 1e-9);
-    EXPECT_NEAR(view.centerCoordinate().longitude, 2, 1e-9);
+    expectCentre(view, {1, 2});
     EXPECT_NEAR(view.zoomLevel(), 10, 1e-9);
-}
-
-TEST_F(MapViewTest, ControlsHaveAccessibleNames) {
-    EXPECT_EQ(view.accessibleName(), QStringLiteral("Map"));
-    QStringList names;
-    for (QToolButton* button : view.findChildren<QToolButton*>()) names << button->accessibleName();
-    names.sort();
-    EXPECT_EQ(names, (QStringList{"Centre on car", "Zoom in", "Zoom out"}));
-}
-
-TEST(MapView, ForgetsAProviderThatIsDestroyed) {
-    MapView view;
-    view.resize(400, 300);
-    {
-        FakeTileProvider provider;
-        provider.tiles[{2, 1, 1}] = solid(Qt::green);
-        view.setTileProvider(&provider);
-        view.setRegion(regionAtZoom({0, 0}, 2), false);
-        paint(view);
-    }
-    EXPECT_EQ(view.tileProvider(), nullptr);
-    EXPECT_NE(paint(view).pixelColor(100, 100), QColor(Qt::green));
 }
 
 TEST_F(MapViewTest, DrawsTheStretchesOfALineThatCrossTheFrame) {
     view.setRegion(regionAtZoom({0, 0}, 10), false);
-    const MapPainter frame = painter();
-    const auto inFrame = [&](QPointF p) { return frame.toCoordinate(p); };
-    struct Case {
+    const struct {
         const char* name;
         std::vector<QPointF> points;  // in widget pixels
         QPoint red;
-    };
-    const Case cases[] = {
-        {"level, both ends outside", {{-500, 100}, {900, 100}}, {200, 100}},
-        {"upright, both ends outside", {{150, -400}, {150, 700}}, {150, 150}},
-        {"diagonal through", {{-100, -100}, {500, 400}}, {200, 150}},
+    } cases[] = {
+        {"both ends outside", {{-500, 100}, {900, 100}}, {200, 100}},
         {"out and back in", {{100, 50}, {100, -900}, {2000, -900}, {300, 50}, {300, 250}}, {300, 200}},
         {"last point alone on screen", {{-900, 200}, {-800, 200}, {250, 200}}, {200, 200}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         std::vector<Coordinate> points;
-        for (QPointF p : c.points) points.push_back(inFrame(p));
+        for (QPointF p : c.points) points.push_back(painter().toCoordinate(p));
         const auto l = line(points);
         view.addOverlay(l);
         EXPECT_TRUE(isRed(paint(view).pixelColor(c.red))) << c.name;
         view.removeOverlays({l});
     }
-}
-
-TEST_F(MapViewTest, UsesFinerTilesOnADenseScreen) {
-    view.setRegion(regionAtZoom({0, 0}, 2), false);
-    QImage image(800, 600, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(2);
-    view.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
-    ASSERT_FALSE(provider.requested.empty());
-    for (const TileId& id : provider.requested) EXPECT_EQ(id.z, 3);
-    // Twice the tiles along each side: columns 2-5 and rows 2-5 at zoom 3.
-    EXPECT_EQ(provider.requested.size(), 16u);
 }
 
 TEST_F(MapViewTest, AnAnimatedRegionEasesToItsEnd) {
@@ -373,21 +284,18 @@ TEST_F(MapViewTest, AnAnimatedRegionEasesToItsEnd) {
     view.setRegion(regionAtZoom({0, 0}, 4), false);
     const CoordinateRegion target = regionMakeWithDistance({48.8566, 2.3522}, 1000, 1000);
     view.setRegion(target, true);
-    // Nothing jumps: the glide starts where the map is.
-    EXPECT_NEAR(view.zoomLevel(), 4, 1e-9);
+    EXPECT_NEAR(view.zoomLevel(), 4, 1e-9);  // nothing jumps
     auto* animation = view.findChild<QVariantAnimation*>();
     ASSERT_NE(animation, nullptr);
     ASSERT_EQ(animation->state(), QAbstractAnimation::Running);
     animation->setCurrentTime(animation->duration() / 2);
     EXPECT_GT(view.zoomLevel(), 4.5);
     EXPECT_GT(view.centerCoordinate().latitude, 1);
-
     // The car moves on while the map zooms: the zoom goes on and ends over the car.
     view.setCenterCoordinate({48.86, 2.36});
     animation->setCurrentTime(animation->duration());
     EXPECT_NEAR(view.zoomLevel(), MapMath::zoomToFit(target, 400, 300, 256), 1e-9);
-    EXPECT_NEAR(view.centerCoordinate().latitude, 48.86, 1e-9);
-    EXPECT_NEAR(view.centerCoordinate().longitude, 2.36, 1e-9);
+    expectCentre(view, {48.86, 2.36});
     EXPECT_EQ(animation->state(), QAbstractAnimation::Stopped);
 }
 
@@ -406,6 +314,7 @@ TEST_F(MapViewTest, PointsWithoutAPlaceAreLeftOut) {
     view.setCenterCoordinate({0, 0});
     EXPECT_FALSE(view.viewForAnnotation(lost)->isHidden());
 
+    view.setCenterCoordinate({NAN, 3});
     view.setRegion({{NAN, 0}, {1, 1}}, false);
     view.setRegion({{0, 0}, {NAN, INFINITY}}, false);
     EXPECT_EQ(view.centerCoordinate(), (Coordinate{0, 0}));
@@ -417,29 +326,15 @@ TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
     view.setRegion(regionAtZoom({0, 0}, 12), false);
     // An upright line through the centre, long enough to leave the frame at both ends.
     view.addOverlay(line({painter().toCoordinate({200, -400}), painter().toCoordinate({200, 700})}));
-    ASSERT_TRUE(isRed(paint(view).pixelColor(200, 150)));
-
-    struct Step {
-        const char* name;
-        double panX;  // pixels eastwards
-        double zoomSteps;
-    };
-    const Step steps[] = {{"a little east", 50, 0}, {"back west", -120, 0}, {"far beyond the frame", 900, 0},
-                          {"zoomed in", 0, 1}, {"zoomed out", 0, -2.5}};
     const Coordinate lineAt = painter().toCoordinate({200, 150});
-    for (const Step& step : steps) {
-        const QPointF centre = painter().toWidget(view.centerCoordinate());
-        view.setCenterCoordinate(painter().toCoordinate(centre + QPointF(step.panX, 0)));
-        if (step.zoomSteps != 0) view.zoomAbout({200, 150}, step.zoomSteps, false);
-        const QPointF expected = painter().toWidget(lineAt);
-        const QImage image = paint(view);
-        const QPoint at(int(std::lround(expected.x())), 150);
-        if (expected.x() < 0 || expected.x() >= 400) {
-            for (int x = 0; x < 400; x += 2) EXPECT_FALSE(isRed(image.pixelColor(x, 150))) << step.name << " x " << x;
-            continue;
-        }
-        EXPECT_TRUE(isRed(image.pixelColor(at))) << step.name << " at " << at.x();
-        EXPECT_FALSE(isRed(image.pixelColor(at + QPoint(6, 0)))) << step.name;
-        EXPECT_FALSE(isRed(image.pixelColor(at - QPoint(6, 0)))) << step.name;
-    }
+    view.setCenterCoordinate(painter().toCoordinate({1100, 150}));  // far beyond the frame
+    const QImage away = paint(view);
+    for (int x = 0; x < 400; x += 2) EXPECT_FALSE(isRed(away.pixelColor(x, 150))) << x;
+    view.setCenterCoordinate(painter().toCoordinate({-680, 150}));  // back to 20 pixels east of the line
+    view.zoomAbout({200, 150}, -2.5, false);
+    const QPoint at = painter().toWidget(lineAt).toPoint();
+    const QImage image = paint(view);
+    EXPECT_TRUE(isRed(image.pixelColor(at)));
+    EXPECT_FALSE(isRed(image.pixelColor(at + QPoint(6, 0))));
+    EXPECT_FALSE(isRed(image.pixelColor(at - QPoint(6, 0))));
 }

@@ -27,21 +27,16 @@ TEST(RecentTiles, FindsTheNearestAncestor) {
     RecentTiles tiles;
     tiles.insert({0, 0, 0}, image(Qt::red));
     tiles.insert({2, 3, 1}, image(Qt::green));
-    struct Case {
+    const struct {
         TileId id;
         int minimumZoom;
         std::optional<TileId> ancestor;
-    };
-    const Case cases[] = {
-        {{3, 7, 3}, 0, TileId{2, 3, 1}},
-        {{4, 14, 6}, 0, TileId{2, 3, 1}},
-        {{3, 6, 3}, 0, TileId{2, 3, 1}},
-        {{3, 0, 0}, 0, TileId{0, 0, 0}},
-        {{3, 0, 0}, 1, std::nullopt},
-        {{2, 3, 1}, 0, TileId{0, 0, 0}},  // itself is not its own ancestor
+    } cases[] = {
+        {{3, 7, 3}, 0, TileId{2, 3, 1}}, {{4, 14, 6}, 0, TileId{2, 3, 1}}, {{3, 0, 0}, 0, TileId{0, 0, 0}},
+        {{3, 0, 0}, 1, std::nullopt},    {{2, 3, 1}, 0, TileId{0, 0, 0}},  // itself is not its own ancestor
         {{0, 0, 0}, 0, std::nullopt},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const auto found = tiles.nearestAncestor(c.id, c.minimumZoom);
         ASSERT_EQ(found.has_value(), c.ancestor.has_value()) << c.id.z << "/" << c.id.x << "/" << c.id.y;
         if (found) {
