@@ -21,15 +21,6 @@ namespace {
 constexpr const char* kFirst = "av.mp4";
 constexpr const char* kNext = "video_only.mov";
 
-double seconds(const MediaPlayer& player) { return player.currentTime().seconds(); }
-
-MediaTime at(double seconds) { return MediaTime::make(std::llround(seconds * 100), 100); }
-
-bool coreIsIdle(const MpvCore& core) {
-    int idle = 0;
-    return mpv_get_property(core.get(), "idle-active", MPV_FORMAT_FLAG, &idle) >= 0 && idle != 0;
-}
-
 class MpvSharedCoreTest : public ::testing::Test {
 protected:
     std::unique_ptr<MediaPlayer> open(const char* clip) {
@@ -49,11 +40,11 @@ protected:
     // A new player reads its own movie's start, paused, however long the core takes to load it.
     static void expectAtItsStart(const MediaPlayer& player, MediaTime duration) {
         for (int slice = 0; slice < 60; ++slice) {
-            ASSERT_EQ(player.duration(), duration) << "slice " << slice;
-            ASSERT_EQ(seconds(player), 0.0) << "slice " << slice;
-            ASSERT_EQ(player.timeControlStatus(), PlayerStatus::Paused) << "slice " << slice;
-            ASSERT_EQ(player.rate(), 0.0f) << "slice " << slice;
-            ASSERT_NE(player.currentTime(), player.duration()) << "slice " << slice;
+            SCOPED_TRACE(slice);
+            ASSERT_EQ(player.duration(), duration);
+            ASSERT_EQ(seconds(player), 0.0);
+            ASSERT_EQ(player.timeControlStatus(), PlayerStatus::Paused);
+            ASSERT_EQ(player.rate(), 0.0f);
             runFor(1);
         }
     }
@@ -70,12 +61,7 @@ TEST_F(MpvSharedCoreTest, NothingOfTheMovieBeforeReachesTheNext) {
     };
     const Case cases[] = {
         {"still loading", [](MediaPlayer&) {}},
-        {"playing",
-         [](MediaPlayer& player) {
-             player.play();
-             ASSERT_TRUE(runUntil([&] { return seconds(player) > 1.0; }));
-         }},
-        {"seeking far",
+        {"seeking far while playing",
          [](MediaPlayer& player) {
              player.play();
              ASSERT_TRUE(runUntil([&] { return player.timeControlStatus() == PlayerStatus::Playing; }));
@@ -147,7 +133,6 @@ TEST_F(MpvSharedCoreTest, AReplacedPlayerNoLongerMovesTheCore) {
 
 TEST_F(MpvSharedCoreTest, DroppingThePlayerLeavesNothingLoaded) {
     auto player = open(kFirst);
-    ASSERT_NE(player, nullptr);
     const MpvCore core = dynamic_cast<MpvRenderSource&>(*player).renderCore();
     player->play();
     ASSERT_TRUE(runUntil([&] { return seconds(*player) > 0.5; }));
@@ -160,7 +145,6 @@ TEST_F(MpvSharedCoreTest, DroppingThePlayerLeavesNothingLoaded) {
     mpv_free(path);
     // The same core plays the next movie.
     auto next = open(kNext);
-    ASSERT_NE(next, nullptr);
     EXPECT_EQ(dynamic_cast<MpvRenderSource&>(*next).renderCore(), core);
     next->play();
     ASSERT_TRUE(runUntil([&] { return seconds(*next) > 0.3; }));
