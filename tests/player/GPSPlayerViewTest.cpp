@@ -33,8 +33,8 @@ TEST(GPSPlayerView, ShowsTheEnginesPlayersAndLetsGoOfThemFirst) {
         surface = made.get();
         return made;
     };
-    auto view = std::make_unique<GPSPlayerView>(factory, makeSurface, std::make_unique<ManualUpdateTimer>(),
-                                                settings.utils());
+    auto view =
+        std::make_unique<GPSPlayerView>(factory, makeSurface, std::make_unique<ManualUpdateTimer>(), settings.utils());
     ASSERT_NE(surface, nullptr);
     EXPECT_GE(view->layout()->indexOf(surface), 0) << "the picture fills the view";
 

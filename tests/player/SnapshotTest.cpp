@@ -91,9 +91,7 @@ protected:
 TEST_F(SnapshotTest, FrameAtThePlayersTimeMatchesTheFfmpegProgram) {
     // A time just short of a frame, as the player rounds it (10/30 s read as 0.333 s), names that
     // frame; past the end gives the last frame (from 599/30 s).
-    const struct {
-        double at, ffmpegAt;
-    } cases[] = {{12.5, 12.5}, {1.0 / 3.0, 0.333}, {25.0, 19.96}};
+    const struct { double at, ffmpegAt; } cases[] = {{12.5, 12.5}, {1.0 / 3.0, 0.333}, {25.0, 19.96}};
     for (const auto& c : cases) {
         load(k720p, c.at);
         const QImage shot = snapshotImage();
@@ -140,8 +138,10 @@ TEST_F(SnapshotTest, OnlyAPausedOrPlayingPlayerGivesAFrame) {
     const struct {
         PlayerStatus status;
         bool hasItem, frame;
-    } cases[] = {{PlayerStatus::Paused, true, true}, {PlayerStatus::Playing, true, true},
-                 {PlayerStatus::Waiting, true, false}, {PlayerStatus::Paused, false, false}};
+    } cases[] = {{PlayerStatus::Paused, true, true},
+                 {PlayerStatus::Playing, true, true},
+                 {PlayerStatus::Waiting, true, false},
+                 {PlayerStatus::Paused, false, false}};
     for (const auto& c : cases) {
         state->status = c.status;
         state->hasItem = c.hasItem;
@@ -174,7 +174,8 @@ TEST(PngEncoder, DecodesBackToTheSamePixels) {
         const QImage back = decoded(PngEncoder::encode(image)).convertToFormat(QImage::Format_RGB888);
         ASSERT_EQ(back.size(), size);
         for (int y = 0; y < size.height(); ++y) {
-            ASSERT_EQ(std::memcmp(back.constScanLine(y), image.pixels.data() + image.rowBytes() * y, image.rowBytes()), 0)
+            ASSERT_EQ(std::memcmp(back.constScanLine(y), image.pixels.data() + image.rowBytes() * y, image.rowBytes()),
+                      0)
                 << size.width() << "x" << size.height() << " row " << y;
         }
     }

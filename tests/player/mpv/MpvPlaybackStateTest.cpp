@@ -32,8 +32,14 @@ TEST(MpvPlaybackStateTest, StatusFollowsPauseLoadingSeekingAndFailure) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        MpvPlaybackState state{.loaded = c.loaded, .failed = c.failed, .paused = c.paused, .coreIdle = c.coreIdle,
-                               .seeking = c.seeking, .backward = c.backward, .speed = c.speed, .position = 3.0};
+        MpvPlaybackState state{.loaded = c.loaded,
+                               .failed = c.failed,
+                               .paused = c.paused,
+                               .coreIdle = c.coreIdle,
+                               .seeking = c.seeking,
+                               .backward = c.backward,
+                               .speed = c.speed,
+                               .position = 3.0};
         EXPECT_EQ(state.status(), c.status);
         EXPECT_EQ(state.rate(), c.rate);
     }

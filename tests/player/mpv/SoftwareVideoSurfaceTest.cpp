@@ -83,9 +83,6 @@ TEST_F(SoftwareVideoSurfaceTest, ShowsTheNextMovieAfterAChange) {
     EXPECT_EQ(brightness(picture(), surface_.rect()), 0.0);
     ASSERT_TRUE(runUntil([&] { return middle() > 30.0; }));
     EXPECT_NE(picture(), old);
-    const QImage first = picture();
-    next->play();
-    ASSERT_TRUE(runUntil([&] { return picture() != first; }));
 }
 
 }  // namespace
