@@ -1,4 +1,5 @@
-// The software surface with a real player, drawn through Qt's offscreen platform.
+// The software surface with a real player, drawn through Qt's offscreen platform. That the picture
+// moves while playing, the window test under a virtual display checks for both renderers.
 
 #include "MpvPlayerFactory.h"
 #include "MpvTestSupport.h"
@@ -38,7 +39,7 @@ protected:
     SoftwareVideoSurface surface_;
 };
 
-TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedFollowsItAndRedrawsAfterAResize) {
+TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedAndRedrawsItAfterAResize) {
     auto player = factory_.playerWithURL(testClip("av.mp4"));
     ASSERT_NE(player, nullptr);
     surface_.setPlayer(player.get());
@@ -48,8 +49,6 @@ TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedFollowsItAndRedrawsAfte
     const QImage first = picture();
     EXPECT_EQ(brightness(first, QRect(0, 0, 70, 180)), 0.0);
     EXPECT_EQ(brightness(first, QRect(410, 0, 70, 180)), 0.0);
-    // The clip's clock and moving shapes change the picture as it plays.
-    ASSERT_TRUE(runUntil([&] { return picture() != first; }));
     // Paused and resized: the same frame again, now letterboxed above and below.
     player->pause();
     surface_.resize(320, 360);
