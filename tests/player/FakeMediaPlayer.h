@@ -20,7 +20,6 @@ struct FakePlayerState {
     int plays = 0;
     int pauses = 0;
     std::vector<MediaTime> seeks;
-    std::vector<float> volumes;
     bool destroyed = false;
 
     void at(double seconds) { currentTime = MediaTime::make(static_cast<int64_t>(seconds * 1000), 1000); }
@@ -32,10 +31,7 @@ public:
     ~FakeMediaPlayer() override { s_->destroyed = true; }
 
     float volume() const override { return s_->volume; }
-    void setVolume(float volume) override {
-        s_->volume = volume;
-        s_->volumes.push_back(volume);
-    }
+    void setVolume(float volume) override { s_->volume = volume; }
     bool muted() const override { return s_->muted; }
     void setMuted(bool muted) override { s_->muted = muted; }
     float rate() const override { return s_->rate; }

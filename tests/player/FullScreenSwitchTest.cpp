@@ -11,56 +11,43 @@
 
 namespace {
 
-// A window whose middle row holds the widget beside a label, nested one layout deep.
-struct Window {
+TEST(FullScreenSwitch, MovieLeavesItsWindowAndComesBackToTheSamePlace) {
+    // The movie sits in the middle row beside a label, nested one layout deep.
     QWidget window;
-    QLabel* top = new QLabel("top", &window);
-    QWidget* movie = new QWidget(&window);
-    QLabel* side = new QLabel("side", &window);
-    QHBoxLayout* row = new QHBoxLayout;
-
-    Window() {
-        auto* column = new QVBoxLayout(&window);
-        column->addWidget(top);
-        row->addWidget(side);
-        row->addWidget(movie, 3);
-        column->addLayout(row, 1);
-        window.resize(640, 480);
-        window.show();
-        settle();
-    }
-    void settle() {
+    auto* column = new QVBoxLayout(&window);
+    auto* row = new QHBoxLayout;
+    auto* side = new QLabel("side", &window);
+    auto* movie = new QWidget(&window);
+    column->addWidget(new QLabel("top", &window));
+    row->addWidget(side);
+    row->addWidget(movie, 3);
+    column->addLayout(row, 1);
+    window.resize(640, 480);
+    window.show();
+    const auto settle = [&] {
         window.layout()->activate();
         QCoreApplication::processEvents();
-    }
-};
+    };
+    settle();
+    const QRect before = movie->geometry(), sideBefore = side->geometry();
 
-TEST(FullScreenSwitch, MovieLeavesItsWindowAndComesBackToTheSamePlace) {
-    Window w;
-    const QRect before = w.movie->geometry();
-    const QRect sideBefore = w.side->geometry();
-    ASSERT_EQ(w.row->indexOf(w.movie), 1);
-
-    FullScreenSwitch fullScreen(*w.movie);
+    FullScreenSwitch fullScreen(*movie);
     fullScreen.toggle();
-    w.settle();
+    settle();
     EXPECT_TRUE(fullScreen.isFullScreen());
-    EXPECT_TRUE(w.movie->isWindow());
-    EXPECT_TRUE(w.movie->windowState() & Qt::WindowFullScreen);
-    EXPECT_EQ(w.row->indexOf(w.movie), -1);
-    EXPECT_EQ(w.side->geometry(), sideBefore) << "a placeholder holds the place";
-    EXPECT_EQ(w.movie->parentWidget(), &w.window) << "the window still owns it";
+    EXPECT_TRUE(movie->windowState() & Qt::WindowFullScreen);
+    EXPECT_EQ(side->geometry(), sideBefore) << "a placeholder holds the place";
+    EXPECT_EQ(movie->parentWidget(), &window) << "the window still owns it";
 
     fullScreen.toggle();
-    w.settle();
+    settle();
     EXPECT_FALSE(fullScreen.isFullScreen());
-    EXPECT_FALSE(w.movie->isWindow());
-    EXPECT_EQ(w.movie->parentWidget(), &w.window);
-    EXPECT_EQ(w.row->indexOf(w.movie), 1);
-    EXPECT_EQ(w.row->stretch(1), 3);
-    EXPECT_EQ(w.movie->geometry(), before);
-    EXPECT_TRUE(w.movie->isVisible());
-    EXPECT_EQ(w.window.findChildren<QWidget*>().size(), 3) << "the placeholder is gone";
+    EXPECT_FALSE(movie->isWindow());
+    EXPECT_EQ(row->indexOf(movie), 1);
+    EXPECT_EQ(row->stretch(1), 3);
+    EXPECT_EQ(movie->geometry(), before);
+    EXPECT_TRUE(movie->isVisible());
+    EXPECT_EQ(window.findChildren<QWidget*>().size(), 3) << "the placeholder is gone";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // The movie view around the engine: it shows the engine's players in its surface and lets go of
-// them before they go. Full screen is FullScreenSwitch's (and the control tests' Escape) business.
+// them before they go.
 
 #include "FakeMediaPlayer.h"
 #include "GPSPlayerView.h"
@@ -13,45 +13,38 @@
 namespace {
 
 // Records into a log that outlives the surface, which the view destroys with itself.
-struct SurfaceLog {
-    std::vector<MediaPlayer*> shown;
-};
-
 class LoggingSurface final : public QWidget, public VideoSurface {
 public:
-    LoggingSurface(QWidget* parent, SurfaceLog& log) : QWidget(parent), log_(log) {}
+    LoggingSurface(QWidget* parent, std::vector<MediaPlayer*>& log) : QWidget(parent), log_(log) {}
     QWidget* widget() override { return this; }
-    void setPlayer(MediaPlayer* player) override { log_.shown.push_back(player); }
+    void setPlayer(MediaPlayer* player) override { log_.push_back(player); }
 
 private:
-    SurfaceLog& log_;
+    std::vector<MediaPlayer*>& log_;
 };
 
 TEST(GPSPlayerView, ShowsTheEnginesPlayersAndLetsGoOfThemFirst) {
     TempSettings settings;
     const auto factory = std::make_shared<FakeMediaPlayerFactory>();
-    SurfaceLog log;
-    QWidget* surfaceWidget = nullptr;
+    std::vector<MediaPlayer*> shown;
+    QWidget* surface = nullptr;
     const auto makeSurface = [&](QWidget* parent) {
-        auto surface = std::make_unique<LoggingSurface>(parent, log);
-        surfaceWidget = surface.get();
-        return surface;
+        auto made = std::make_unique<LoggingSurface>(parent, shown);
+        surface = made.get();
+        return made;
     };
-    auto view = std::make_unique<GPSPlayerView>(factory, makeSurface, std::make_unique<ManualUpdateTimer>(),
-                                                settings.utils());
-    ASSERT_NE(surfaceWidget, nullptr);
-    EXPECT_EQ(surfaceWidget->parentWidget(), view.get());
-    EXPECT_GE(view->layout()->indexOf(surfaceWidget), 0) << "the picture fills the view";
+    auto view =
+        std::make_unique<GPSPlayerView>(factory, makeSurface, std::make_unique<ManualUpdateTimer>(), settings.utils());
+    ASSERT_NE(surface, nullptr);
+    EXPECT_GE(view->layout()->indexOf(surface), 0) << "the picture fills the view";
 
     auto state = std::make_shared<FakePlayerState>();
     factory->next = state;
     view->engine().setMovie(fixtureMovie("index_scaled.mov"));
-    ASSERT_FALSE(log.shown.empty());
-    EXPECT_EQ(log.shown.back(), view->engine().mediaPlayer());
-
+    ASSERT_FALSE(shown.empty());
+    EXPECT_EQ(shown.back(), view->engine().mediaPlayer());
     view.reset();
-    ASSERT_FALSE(log.shown.empty());
-    EXPECT_EQ(log.shown.back(), nullptr) << "the surface was told before the player went";
+    EXPECT_EQ(shown.back(), nullptr) << "the surface was told before the player went";
     EXPECT_TRUE(state->destroyed);
 }
 

@@ -33,7 +33,6 @@ TEST(TrackCursor, ReportsEachNewWholeSecondInsideTheTrackOnce) {
         {3.9, 3, 3},
         {4.0, std::nullopt, 3},  // beyond the track the last position stays
         {kNaN, std::nullopt, 3},
-        {1e300, std::nullopt, 3},
         {0x1p63, std::nullopt, 3},
         {2.5, 2, 2},  // playing or seeking back reports the earlier sample
         {-1.5, std::nullopt, 2},
@@ -52,8 +51,7 @@ TEST(PlaybackMath, SeekTargetsAreWholeHundredthsTowardZero) {
     } cases[] = {
         {0.5, 9.99, MediaTime::make(499, 100)},
         {1.0, 40.0, MediaTime::make(4000, 100)},
-        {-0.5, 9.99, MediaTime::make(0, 100)},  // before the start is the start
-        {-0.01, 60.0, MediaTime::make(0, 100)},
+        {-0.01, 60.0, MediaTime::make(0, 100)},  // before the start is the start
         {-1e300, 10.0, MediaTime::make(0, 100)},
         {0.5, kNaN, std::nullopt},
         {1e300, 10.0, std::nullopt},
@@ -73,7 +71,7 @@ TEST(PlayerTrack, EmptySampleInFrontAndMaximumCappedAt200) {
     const struct {
         std::size_t records;
         float loaderMax, speedMax;
-    } cases[] = {{3, 250.0f, 200.0f}, {3, 120.0f, 120.0f}, {0, 55.0f, 0.0f}};
+    } cases[] = {{3, 250.0f, 200.0f}, {3, 200.0f, 200.0f}, {3, 120.0f, 120.0f}, {0, 55.0f, 0.0f}};
     for (const auto& c : cases) {
         std::vector<GPSData> records(c.records);
         if (c.records > 0) {
@@ -103,8 +101,7 @@ TEST(SnapshotColour, TagsWinOtherwiseTheSizeDecides) {
     } cases[] = {
         {untagged, anyRange, 1280, 544, {SWS_CS_ITU709, false}},
         {untagged, anyRange, 1024, 578, {SWS_CS_ITU709, false}},
-        {untagged, anyRange, 720, 576, {SWS_CS_ITU601, false}},
-        {untagged, AVCOL_RANGE_JPEG, 320, 180, {SWS_CS_ITU601, true}},
+        {untagged, AVCOL_RANGE_JPEG, 720, 576, {SWS_CS_ITU601, true}},
         {AVCOL_SPC_BT709, AVCOL_RANGE_MPEG, 320, 180, {SWS_CS_ITU709, false}},
         {AVCOL_SPC_SMPTE170M, anyRange, 1920, 1080, {SWS_CS_ITU601, false}},
         {AVCOL_SPC_BT2020_NCL, anyRange, 3840, 2160, {SWS_CS_BT2020, false}},

@@ -5,56 +5,41 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 
 namespace {
 
 MpvPlaybackState playing() {
-    MpvPlaybackState state;
-    state.loaded = true;
-    state.paused = false;
-    state.coreIdle = false;
-    state.position = 3.0;
-    return state;
+    return MpvPlaybackState{.loaded = true, .paused = false, .coreIdle = false, .position = 3.0};
 }
 
 TEST(MpvPlaybackStateTest, StatusFollowsPauseLoadingSeekingAndFailure) {
-    struct Case {
+    constexpr auto Playing = PlayerStatus::Playing, Paused = PlayerStatus::Paused, Waiting = PlayerStatus::Waiting;
+    const struct {
         const char* what;
-        void (*change)(MpvPlaybackState&);
+        bool loaded, failed, paused, coreIdle, seeking, backward;
+        double speed;
         PlayerStatus status;
         float rate;
+    } cases[] = {
+        {"playing", true, false, false, false, false, false, 1.0, Playing, 1.0f},
+        {"paused", true, false, true, true, false, false, 1.0, Paused, 0.0f},
+        {"still loading", false, false, false, false, false, false, 1.0, Waiting, 1.0f},
+        {"seeking", true, false, false, false, true, false, 1.0, Waiting, 1.0f},
+        {"held by the cache", true, false, false, true, false, false, 1.0, Waiting, 1.0f},
+        {"failed", false, true, false, false, false, false, 1.0, Paused, 0.0f},
+        {"backward at double rate", true, false, false, false, false, true, 2.0, Playing, -2.0f},
     };
-    const Case cases[] = {
-        {"playing", [](MpvPlaybackState&) {}, PlayerStatus::Playing, 1.0f},
-        {"paused",
-         [](MpvPlaybackState& s) {
-             s.paused = true;
-             s.coreIdle = true;
-         },
-         PlayerStatus::Paused, 0.0f},
-        {"still loading", [](MpvPlaybackState& s) { s.loaded = false; }, PlayerStatus::Waiting, 1.0f},
-        {"seeking", [](MpvPlaybackState& s) { s.seeking = true; }, PlayerStatus::Waiting, 1.0f},
-        {"held by the cache", [](MpvPlaybackState& s) { s.coreIdle = true; }, PlayerStatus::Waiting, 1.0f},
-        {"failed",
-         [](MpvPlaybackState& s) {
-             s.failed = true;
-             s.loaded = false;
-         },
-         PlayerStatus::Paused, 0.0f},
-        {"double rate", [](MpvPlaybackState& s) { s.speed = 2.0; }, PlayerStatus::Playing, 2.0f},
-        {"backward",
-         [](MpvPlaybackState& s) {
-             s.speed = 2.0;
-             s.backward = true;
-         },
-         PlayerStatus::Playing, -2.0f},
-    };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        MpvPlaybackState state = playing();
-        c.change(state);
+        MpvPlaybackState state{.loaded = c.loaded,
+                               .failed = c.failed,
+                               .paused = c.paused,
+                               .coreIdle = c.coreIdle,
+                               .seeking = c.seeking,
+                               .backward = c.backward,
+                               .speed = c.speed,
+                               .position = 3.0};
         EXPECT_EQ(state.status(), c.status);
         EXPECT_EQ(state.rate(), c.rate);
     }
@@ -62,30 +47,27 @@ TEST(MpvPlaybackStateTest, StatusFollowsPauseLoadingSeekingAndFailure) {
 
 TEST(MpvPlaybackStateTest, CurrentTimeIsExactlyTheDurationOnlyAtRestAtTheEnd) {
     const MediaTime duration = MediaTime::make(9'976'000, kMicrosecondsPerSecond);
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    struct Case {
+    const double end = duration.seconds(), nan = std::numeric_limits<double>::quiet_NaN();
+    const struct {
         const char* what;
-        bool paused;
-        bool eof;
-        bool backward;
+        bool paused, eof, backward;
         std::optional<double> position;
         double seconds;
         bool seekInFlight = false;
-    };
-    const Case cases[] = {
+    } cases[] = {
         // mpv rests on the last frame's time, or past the duration on the end of the audio.
-        {"at rest on the last frame", true, true, false, 9.9333, duration.seconds()},
-        {"at rest after the audio", true, true, false, 10.02, duration.seconds()},
+        {"at rest on the last frame", true, true, false, 9.9333, end},
+        {"at rest after the audio", true, true, false, 10.02, end},
         {"at the end, not yet paused", false, true, false, 9.9333, 9.9333},
         {"paused before the end", true, false, false, 9.9333, 9.9333},
         {"backward at the start", true, true, true, 0.0, 0.0},
         {"at the end, seeking back to the start", true, true, false, 0.0, 0.0, true},
-        {"past the duration while playing", false, false, false, 10.5, duration.seconds()},
+        {"past the duration while playing", false, false, false, 10.5, end},
         {"before the first frame", true, false, false, std::nullopt, 0.0},
         {"negative", false, false, false, -0.02, 0.0},
         {"not a number", false, false, false, nan, 0.0},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         MpvPlaybackState state = playing();
         state.paused = c.paused;
@@ -95,16 +77,13 @@ TEST(MpvPlaybackStateTest, CurrentTimeIsExactlyTheDurationOnlyAtRestAtTheEnd) {
         state.seekInFlight = c.seekInFlight;
         const MediaTime time = state.currentTime(duration);
         EXPECT_EQ(time.seconds(), c.seconds);
-        EXPECT_EQ(time == duration, c.seconds == duration.seconds());
+        EXPECT_EQ(time == duration, c.seconds == end);
     }
-}
-
-TEST(MpvPlaybackStateTest, WithoutAKnownDurationTheEndReadsAsThePosition) {
-    MpvPlaybackState state = playing();
-    state.paused = true;
-    state.eofReached = true;
-    state.position = 12.5;
-    EXPECT_EQ(state.currentTime(MediaTime::invalid()).seconds(), 12.5);
+    // Without a known duration the end reads as the position.
+    MpvPlaybackState atEnd = playing();
+    atEnd.paused = atEnd.eofReached = true;
+    atEnd.position = 12.5;
+    EXPECT_EQ(atEnd.currentTime(MediaTime::invalid()).seconds(), 12.5);
 }
 
 }  // namespace

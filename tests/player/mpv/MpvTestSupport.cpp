@@ -1,7 +1,11 @@
 #include "MpvTestSupport.h"
 
+#include <mpv/client.h>
+
 #include <QEventLoop>
 #include <QTimer>
+
+#include <cmath>
 
 namespace {
 
@@ -27,4 +31,11 @@ void runFor(int slices) {
 
 bool isAtRest(const MediaPlayer& player) {
     return player.timeControlStatus() == PlayerStatus::Paused && player.rate() == 0.0f;
+}
+
+MediaTime at(double seconds) { return MediaTime::make(std::llround(seconds * 100), 100); }
+
+bool coreIsIdle(const MpvCore& core) {
+    int idle = 0;
+    return mpv_get_property(core.get(), "idle-active", MPV_FORMAT_FLAG, &idle) >= 0 && idle != 0;
 }

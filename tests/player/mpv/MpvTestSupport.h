@@ -3,6 +3,7 @@
 // something has happened.
 
 #include "MediaPlayer.h"
+#include "MpvCore.h"
 
 #include <filesystem>
 #include <functional>
@@ -17,3 +18,7 @@ bool runUntil(const std::function<bool()>& done, int maxSlices = 3000);
 void runFor(int slices);
 
 bool isAtRest(const MediaPlayer& player);
+inline double seconds(const MediaPlayer& player) { return player.currentTime().seconds(); }
+MediaTime at(double seconds);
+// The core has no movie loaded.
+bool coreIsIdle(const MpvCore& core);

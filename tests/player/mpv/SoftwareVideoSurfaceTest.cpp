@@ -1,4 +1,5 @@
-// The software surface with a real player, drawn through Qt's offscreen platform.
+// The software surface with a real player, drawn through Qt's offscreen platform. That the picture
+// moves while playing, the window test under a virtual display checks for both renderers.
 
 #include "MpvPlayerFactory.h"
 #include "MpvTestSupport.h"
@@ -38,7 +39,7 @@ protected:
     SoftwareVideoSurface surface_;
 };
 
-TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedAndFollowsIt) {
+TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedAndRedrawsItAfterAResize) {
     auto player = factory_.playerWithURL(testClip("av.mp4"));
     ASSERT_NE(player, nullptr);
     surface_.setPlayer(player.get());
@@ -48,19 +49,10 @@ TEST_F(SoftwareVideoSurfaceTest, ShowsTheMovieLetterboxedAndFollowsIt) {
     const QImage first = picture();
     EXPECT_EQ(brightness(first, QRect(0, 0, 70, 180)), 0.0);
     EXPECT_EQ(brightness(first, QRect(410, 0, 70, 180)), 0.0);
-    // The clip's clock and moving shapes change the picture as it plays.
-    ASSERT_TRUE(runUntil([&] { return picture() != first; }));
-}
-
-TEST_F(SoftwareVideoSurfaceTest, ShowsThePausedFrameAgainAfterAResize) {
-    auto player = factory_.playerWithURL(testClip("video_only.mov"));
-    ASSERT_NE(player, nullptr);
-    surface_.setPlayer(player.get());
-    player->seek(MediaTime::make(2, 1));
-    ASSERT_TRUE(runUntil([&] { return middle() > 30.0; }));
+    // Paused and resized: the same frame again, now letterboxed above and below.
+    player->pause();
     surface_.resize(320, 360);
     runFor(5);
-    // Now letterboxed above and below.
     const QImage resized = picture();
     ASSERT_EQ(resized.size(), QSize(320, 360));
     EXPECT_EQ(brightness(resized, QRect(0, 0, 320, 80)), 0.0);
@@ -90,9 +82,6 @@ TEST_F(SoftwareVideoSurfaceTest, ShowsTheNextMovieAfterAChange) {
     EXPECT_EQ(brightness(picture(), surface_.rect()), 0.0);
     ASSERT_TRUE(runUntil([&] { return middle() > 30.0; }));
     EXPECT_NE(picture(), old);
-    const QImage first = picture();
-    next->play();
-    ASSERT_TRUE(runUntil([&] { return picture() != first; }));
 }
 
 }  // namespace
