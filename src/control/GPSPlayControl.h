@@ -17,4 +17,7 @@ enum GPSPlayControl : uint64_t {
     GPSPlayControlVolumeUp = 9,
     GPSPlayControlSpeedDown = 10,
     GPSPlayControlSpeedUp = 11,
+    // Reviewing a paused picture frame by frame.
+    GPSPlayControlStepFrameBackward = 12,
+    GPSPlayControlStepFrameForward = 13,
 };

@@ -5,6 +5,7 @@
 
 #include "MainWindowDelegate.h"
 
+#include "GPSInfoPanel.h"
 #include "GPSPlayerView.h"
 #include "PlayControlDispatch.h"
 #include "PlaylistNavigation.h"
@@ -14,10 +15,13 @@
 #include "TransportButtonStates.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QSlider>
+
+#include <utility>
 
 namespace {
 
@@ -77,8 +81,12 @@ void MainWindowDelegate::OnPause(QObject* /*sender*/) {
 
 void MainWindowDelegate::OnStop(QObject* /*sender*/) {
     if (GPSPlayerEngine* player = engine()) player->Stop();
+    continuing_ = false;
+    entryFailed_ = false;
+    if (outlets_.player != nullptr) outlets_.player->clearMessage();
     ResetControls();
     UpdateControls();
+    refreshTimeline();
 }
 
 void MainWindowDelegate::OnPrev(QObject* /*sender*/) { playWithIndex(PlaylistNavigation::previousIndex(curIndex), true); }
@@ -99,18 +107,40 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
         player->Seek(0.0);
         break;
     case PlaylistNavigation::IndexStep::Load: {
-        OnStop(nullptr);
+        // Going on through a trip, the read-outs keep the last clip's sample until the next one
+        // has its own: no idle texts in between.
+        const bool continuing = std::exchange(continuing_, false);
+        if (!continuing) OnStop(nullptr);
         curIndex = index;
         selectRow(index);
-        const std::filesystem::path& url = playlistURL(index);
+        const std::filesystem::path url = playlistURL(index);
         player->setMovie(url);
         if (outlets_.txtTitle != nullptr) outlets_.txtTitle->setText(QFile::decodeName(url.c_str()));
+        entryFailed_ = !player->IsReady();
+        if (entryFailed_) {
+            showClipProblem(index);
+            // Through a trip, a clip that went is passed over like a blank stretch of road.
+            if (continuing) {
+                if (const auto next = continuationOf(index)) {
+                    continuing_ = true;
+                    playWithIndex(*next, autoPlay);
+                    return;
+                }
+            }
+        } else {
+            if (clipProblems_.erase(url) > 0) refreshTrips();
+            if (outlets_.player != nullptr) outlets_.player->clearMessage();
+            continuing_ = continuing;
+        }
+        refreshTimeline();
         break;
     }
     }
     RefreshUnits();
     // A file that no longer plays (deleted, or broken since it was added) leaves the engine empty;
-    // playing it would come back here to load it again, without end.
+    // playing it would come back here to load it again, without end. Its read-outs are idle, not
+    // the last clip's.
+    if (entryFailed_) infoPanel().reset();
     if (autoPlay && player->IsReady())
         OnPlay(outlets_.btPlay);
     else
@@ -195,6 +225,26 @@ void MainWindowDelegate::SpeedDown() {
     UpdatePlayingStatus();
 }
 
+void MainWindowDelegate::StepFrame(bool forward) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr) return;
+    // A step is taken from a still picture: a playing movie stops first, on the frame it shows.
+    if (player->IsPlaying()) player->Pause();
+    player->StepFrame(forward);
+    UpdatePlayingStatus();
+}
+
+void MainWindowDelegate::OnRateChosen(float rate) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr || !player->IsReady()) return;
+    if (rate == kNormalRate) {
+        OnPlay(outlets_.btPlay);
+    } else if (player->speed() != rate) {
+        player->setSpeed(rate);
+    }
+    UpdatePlayingStatus();
+}
+
 void MainWindowDelegate::OnToggleFullscreen(QObject* /*sender*/) {
     if (outlets_.player != nullptr) outlets_.player->toggleFullscreen();
 }
@@ -203,6 +253,7 @@ void MainWindowDelegate::UpdateControls() {
     const GPSPlayerEngine* player = engine();
     const ControlStates states = TransportButtonStates::controlsFor({
         .ready = player != nullptr && player->IsReady(),
+        .entryFailed = entryFailed_,
         .curIndex = curIndex,
         .count = playlist.size(),
         .progress = outlets_.durationSlider != nullptr ? sliderFraction(*outlets_.durationSlider) : 0.0,
@@ -228,6 +279,15 @@ void MainWindowDelegate::UpdatePlayingStatus() {
     setHidden(o.btPause, !states.pauseShown);
     setHidden(o.btPlay, !states.playShown);
     setEnabled(o.btStop, states.stopEnabled);
+    RefreshRateMenu();
+}
+
+void MainWindowDelegate::RefreshRateMenu() {
+    const GPSPlayerEngine* player = engine();
+    const float rate = player != nullptr && player->IsPlaying() ? player->speed() : 0.0f;
+    for (QAction* item : outlets_.rateItems) {
+        if (item != nullptr) item->setChecked(item->data().toFloat() == rate);
+    }
 }
 
 QAbstractButton* MainWindowDelegate::buttonOf(TransportButton button) const {
@@ -261,10 +321,11 @@ void MainWindowDelegate::didPerformPlayControl(QObject* sender, uint64_t playCon
     PlayControlDispatch::perform(*this, sender, playControl);
 }
 
-void MainWindowDelegate::UpdateDuration(GPSPlayerEngine& /*engine*/, double progress) {
+void MainWindowDelegate::UpdateDuration(GPSPlayerEngine& engine, double progress) {
     // While the user drags the knob, the knob is theirs: the seek follows when they let go.
     if (outlets_.durationSlider != nullptr && !outlets_.durationSlider->isSliderDown())
         setSliderFraction(*outlets_.durationSlider, progress);
+    showTimelinePosition(progress * engine.duration());
     UpdateControls();
 }
 
@@ -277,6 +338,12 @@ void MainWindowDelegate::Completed(GPSPlayerEngine& /*engine*/) {
             quitting_ = true;
             QCoreApplication::quit();
         }
+        return;
+    }
+    // Under continuous play the trip goes on at once; between trips the next clip waits.
+    if (const auto next = continuationOf(curIndex)) {
+        continuing_ = true;
+        playWithIndex(*next, true);
         return;
     }
     OnNext(nullptr);

@@ -38,6 +38,11 @@ constexpr std::array kRoutes{
     Route{GPSPlayControlVolumeUp, std::nullopt, [](TransportCommands& c, QObject*) { c.VolumeUp(); }},
     Route{GPSPlayControlSpeedDown, std::nullopt, [](TransportCommands& c, QObject*) { c.SpeedDown(); }},
     Route{GPSPlayControlSpeedUp, std::nullopt, [](TransportCommands& c, QObject*) { c.SpeedUp(); }},
+    // Stepping needs a movie, which is what the snapshot button's state says too.
+    Route{GPSPlayControlStepFrameBackward, TransportButton::Snapshot,
+          [](TransportCommands& c, QObject*) { c.StepFrame(false); }},
+    Route{GPSPlayControlStepFrameForward, TransportButton::Snapshot,
+          [](TransportCommands& c, QObject*) { c.StepFrame(true); }},
 };
 
 const Route* routeOf(uint64_t playControl) {

@@ -35,6 +35,8 @@ constexpr std::array kBindings{
     KeyBinding{ControlKey::Space, kNone, GPSPlayControlPlayPause},
     KeyBinding{ControlKey::Backspace, kCommand, GPSPlayControlStop},
     KeyBinding{ControlKey::F, kCommand, GPSPlayControlToggleFullscreen},
+    KeyBinding{ControlKey::Comma, kNone, GPSPlayControlStepFrameBackward},
+    KeyBinding{ControlKey::Period, kNone, GPSPlayControlStepFrameForward},
 };
 
 bool platformScanCodesAreXkb() {
@@ -75,6 +77,10 @@ ControlKey PlayControlKeyMap::keyOf(int qtKey, uint32_t nativeScanCode, bool sca
             return ControlKey::Space;
         case Qt::Key_Backspace:
             return ControlKey::Backspace;
+        case Qt::Key_Comma:
+            return ControlKey::Comma;
+        case Qt::Key_Period:
+            return ControlKey::Period;
         default:
             break;
     }

@@ -6,9 +6,9 @@
 
 class QKeyEvent;
 
-// The keys that can carry a command. Arrows, Space and Backspace by what they mean; F by where it
-// sits on the keyboard, so that Ctrl+F works whatever letter the layout puts there.
-enum class ControlKey { Other, Left, Right, Down, Up, Space, Backspace, F };
+// The keys that can carry a command. Arrows, Space, Backspace, comma and full stop by what they
+// mean; F by where it sits on the keyboard, so that Ctrl+F works whatever letter the layout puts there.
+enum class ControlKey { Other, Left, Right, Down, Up, Space, Backspace, F, Comma, Period };
 
 class PlayControlKeyMap {
 public:

@@ -3,12 +3,13 @@
 ControlStates TransportButtonStates::controlsFor(const TransportInputs& in) {
     const bool ready = in.ready;
     ControlStates states;
-    states.prevEnabled = ready && in.curIndex > 0;
+    const bool onEntry = ready || in.entryFailed;
+    states.prevEnabled = onEntry && in.curIndex > 0;
     states.backwardEnabled = ready && in.progress > 0.0;
     states.forwardEnabled = ready && in.progress < 1.0;
     // Unsigned on purpose: a curIndex of -1 is the largest number and never enables it, and an
     // empty playlist's count − 1 wraps the other way.
-    states.nextEnabled = ready && static_cast<uint64_t>(in.curIndex) < in.count - 1;
+    states.nextEnabled = onEntry && static_cast<uint64_t>(in.curIndex) < in.count - 1;
     states.stopEnabled = ready;
     states.snapshotEnabled = ready;
     states.durationSliderEnabled = ready;

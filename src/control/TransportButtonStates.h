@@ -6,6 +6,9 @@
 
 struct TransportInputs {
     bool ready = false;      // a movie is loaded (engine IsReady)
+    // The entry at curIndex was chosen but its file would not open: Previous and Next still step
+    // past it.
+    bool entryFailed = false;
     int64_t curIndex = -1;   // the loaded entry, -1 for none
     uint64_t count = 0;      // playlist entries
     double progress = 0.0;   // the position slider's value

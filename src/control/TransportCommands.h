@@ -22,6 +22,8 @@ public:
     virtual void VolumeUp() = 0;
     virtual void SpeedDown() = 0;
     virtual void SpeedUp() = 0;
+    // One frame forward or back while paused.
+    virtual void StepFrame(bool forward) = 0;
     virtual void UpdatePlayingStatus() = 0;
 
     // Named apart from QWidget's isEnabled/isHidden, so that a widget can implement them.

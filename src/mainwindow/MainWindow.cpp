@@ -62,6 +62,10 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& a
         .mapMBTiles = ui.mapMBTiles,
         .mapTileFolder = ui.mapTileFolder,
         .mapWorkOffline = ui.mapWorkOffline,
+        .txtElapsed = ui.txtElapsed,
+        .actionContinuousPlay = ui.actionContinuousPlay,
+        .rateItems = {ui.actionRate025, ui.actionRate05, ui.actionRate1, ui.actionRate2, ui.actionRate4,
+                      ui.actionRate8},
     };
 }
 

@@ -8,6 +8,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QActionGroup>
 #include <QSlider>
 
 #include <string>
@@ -82,6 +83,8 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
         {ui.actionVolumeUp, GPSPlayControlVolumeUp},
         {ui.actionVolumeDown, GPSPlayControlVolumeDown},
         {ui.actionToggleFullscreen, GPSPlayControlToggleFullscreen},
+        {ui.actionPrevFrame, GPSPlayControlStepFrameBackward},
+        {ui.actionNextFrame, GPSPlayControlStepFrameForward},
     };
     for (const auto& [action, code] : playbackItems) {
         action->setData(QVariant::fromValue<qulonglong>(code));
@@ -89,6 +92,18 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
             if (GPSControlViewDelegate* delegate = view->delegate()) delegate->didPerformPlayControl(view, code);
         });
     }
+
+    const std::pair<QAction*, float> rates[] = {
+        {ui.actionRate025, 0.25f}, {ui.actionRate05, 0.5f}, {ui.actionRate1, 1.0f},
+        {ui.actionRate2, 2.0f},    {ui.actionRate4, 4.0f},  {ui.actionRate8, 8.0f},
+    };
+    // Paused or playing backwards, no rate of the list is the one playing.
+    ui.rateGroup->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    for (const auto& [action, rate] : rates) {
+        action->setData(rate);
+        QObject::connect(action, &QAction::triggered, c, [c, rate] { c->OnRateChosen(rate); });
+    }
+    QObject::connect(ui.actionContinuousPlay, &QAction::toggled, c, [c](bool on) { c->OnContinuousPlayChanged(on); });
 
     // The tags are the stored unit types.
     ui.unitKMH->setData(QVariant::fromValue<qulonglong>(1));

@@ -11,14 +11,20 @@
 #include "RouteTracker.h"
 #include "TileProvider.h"
 #include "TransportCommands.h"
+#include "TimelineSeries.h"
+#include "TripClock.h"
+#include "TripIndex.h"
 
 #include <QObject>
 #include <QString>
 
 #include <cstdint>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <vector>
 
+class ClipCatalog;
 class GPSInfoPanel;
 class GPSPlayerEngine;
 class GPSUtils;
@@ -78,10 +84,15 @@ public:
     void VolumeUp() override;
     void SpeedDown() override;
     void SpeedUp() override;
+    void StepFrame(bool forward) override;
+    // A rate from the Playback menu's list; negative rates stay with the keys.
+    void OnRateChosen(float rate);
     // Loads (or restarts) playlist entry index; autoPlay then plays it.
     void playWithIndex(int64_t index, bool autoPlay);
     void UpdateControls();
     void UpdatePlayingStatus() override;
+    // The check mark on the Playback menu's rate that plays now; none while paused or backwards.
+    void RefreshRateMenu();
     bool isButtonEnabled(TransportButton button) const override;
     bool isButtonHidden(TransportButton button) const override;
     void didPerformPlayControl(QObject* sender, uint64_t playControl) override;
@@ -104,6 +115,17 @@ public:
     void UpdatedGPSInfo(GPSPlayerEngine& engine, const GPSData& data, uint64_t index) override;
     void ResetControls();
     void RefreshUnits();
+
+    // Trips (mainwindow/MainWindowDelegateTrips.cpp): the clips' tracks read in the background,
+    // the trips they form, continuous play through a trip, and seeking anywhere in it.
+    void OnContinuousPlayChanged(bool on);
+    // Seconds on the timeline's line (the loaded clip's, or its trip's under continuous play).
+    void seekTimeline(double seconds);
+    const TripIndex& tripIndex() const { return tripIndex_; }
+    ClipCatalog* clipCatalog() const { return clipCatalog_; }
+    // The playlist rows the timeline spans: the loaded clip, or its whole trip under continuous play.
+    TripSpan timelineSpan() const { return timelineSpan_; }
+    double timelinePosition() const;
 
     // The map (display/).
     // The route driven so far and the car, for every sample the player reports.
@@ -136,6 +158,20 @@ private:
     // Adds a scan's movies when it finishes, with a progress dialog if it takes a while.
     void watchScan(MovieScan* scan);
 
+    // Trips.
+    void refreshTrips();
+    void refreshTimeline();
+    void showTimelinePosition(double clipSeconds);
+    // The loaded clip's playback time as the position slider last showed it; 0 without a movie.
+    double currentClipSeconds() const;
+    // The timeline's series and route ahead on the timeline widget and the map.
+    void showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips);
+    void showTimelineCursor(double seconds);
+    // The next entry of the loaded clip's trip under continuous play; absent between trips.
+    std::optional<int64_t> continuationOf(int64_t row) const;
+    // Marks a row whose file would not open and says why over the movie.
+    void showClipProblem(int64_t row);
+
     // The read-out labels of the outlets, as the panel that writes them.
     GPSInfoPanel infoPanel() const;
 
@@ -146,6 +182,19 @@ private:
     std::shared_ptr<MapAnnotation> car_;
     std::unique_ptr<TileProvider> tileProvider_;
     std::vector<std::filesystem::path> pendingMovies_;
+    ClipCatalog* clipCatalog_ = nullptr;  // a child of the controller
+    TripIndex tripIndex_;
+    TripSpan timelineSpan_;
+    TripClock timelineClock_;
+    TimelineSeries timelineSeries_;
+    double timelinePosition_ = 0;
+    // Files that would not open when they were chosen, and why.
+    std::map<std::filesystem::path, QString> clipProblems_;
+    // True from the end of a clip until the next clip of its trip shows its first sample: the
+    // read-outs keep the last sample instead of the lead-in's empty one.
+    bool continuing_ = false;
+    // The loaded entry was chosen but would not open.
+    bool entryFailed_ = false;
     bool quitAtEnd_ = false;
     bool quitting_ = false;
 };

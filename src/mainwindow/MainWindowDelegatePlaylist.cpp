@@ -8,6 +8,7 @@
 #include "MovieScan.h"
 #include "PlaylistTableModel.h"
 #include "SkinControls.h"
+#include "TripBandCell.h"
 
 #include <QFile>
 #include <QFileDialog>
@@ -44,6 +45,7 @@ void MainWindowDelegate::setupPlaylistTable() {
     rows->setDefaultSectionSize(kRowHeight);
     // Our header look for every column; the header it puts in is the one to configure.
     applyPlaylistTableSkin(*table);
+    if (qobject_cast<TripBandCell*>(table->itemDelegate()) == nullptr) table->setItemDelegate(new TripBandCell(table));
     QHeaderView* columns = table->horizontalHeader();
     columns->setSectionResizeMode(0, QHeaderView::Stretch);
     for (int column = 1; column < playlistModel_->columnCount(); ++column)
@@ -83,6 +85,7 @@ void MainWindowDelegate::addToPlaylist(const std::vector<std::filesystem::path>&
         curIndex = it - items.begin();
     }
     if (playlistModel_ != nullptr) playlistModel_->reloadData();
+    refreshTrips();
     if (curIndex >= 0) selectRow(curIndex);
     if (startPlaying) playWithIndex(0, true);
 }
@@ -146,6 +149,7 @@ void MainWindowDelegate::OnRemoveMediaFile(QObject* /*sender*/) {
     // The loaded entry keeps its place under curIndex when another one goes.
     if (curIndex > row) --curIndex;
     if (playlistModel_ != nullptr) playlistModel_->reloadData();
+    refreshTrips();
     const int64_t next = std::min<int64_t>(row, static_cast<int64_t>(playlist.size()) - 1);
     if (next >= 0) selectRow(next);
     if (removedCurrent) playWithIndex(next, false);

@@ -57,6 +57,7 @@ void MainWindowDelegate::RefreshMenu() {
     const bool kmh = settings_.unitType() == 1;
     if (outlets_.unitKMH != nullptr) outlets_.unitKMH->setChecked(kmh);
     if (outlets_.unitMPH != nullptr) outlets_.unitMPH->setChecked(!kmh);
+    if (outlets_.actionContinuousPlay != nullptr) outlets_.actionContinuousPlay->setChecked(settings_.continuousPlay());
 }
 
 void MainWindowDelegate::OnUnitChanged(QAction* sender) {
@@ -66,6 +67,8 @@ void MainWindowDelegate::OnUnitChanged(QAction* sender) {
     setupPlaylistTable();
     RefreshMenu();
     RefreshUnits();
+    // The timeline's speeds are in the unit too.
+    refreshTimeline();
 }
 
 void MainWindowDelegate::OnShowAbout() {

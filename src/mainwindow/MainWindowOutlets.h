@@ -2,6 +2,8 @@
 // The main window's items that the controller works with, by the names the window's interface
 // description gives them. Non-owning: the window owns them all; null means not connected.
 
+#include <array>
+
 class AboutView;
 class GPSPlayerView;
 class GPSTableView;
@@ -66,4 +68,10 @@ struct MainWindowOutlets {
     QAction* mapMBTiles = nullptr;
     QAction* mapTileFolder = nullptr;
     QAction* mapWorkOffline = nullptr;
+
+    // "1:42 / 3:00" beside the position slider: the clip's, or the trip's under continuous play.
+    QLabel* txtElapsed = nullptr;
+    QAction* actionContinuousPlay = nullptr;
+    // The Playback menu's rates, each carrying its rate as data; the one playing is checked.
+    std::array<QAction*, 6> rateItems{};
 };

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <limits>
 
 // Quiet unless QT_LOGGING_RULES asks: a file that will not play is no news to print.
@@ -20,6 +21,9 @@ Q_LOGGING_CATEGORY(lcPlayerEngine, "dashtrack.player", QtWarningMsg)
 
 namespace {
 constexpr std::chrono::milliseconds kTickInterval{100};
+// A paused seek or step that has not moved the time within this many ticks moved nothing (a
+// step past either end); its report is dropped.
+constexpr int kPausedMoveTicks = 20;
 }
 
 GPSPlayerEngine::GPSPlayerEngine(std::shared_ptr<MediaPlayerFactory> playerFactory, VideoSurface* surface,
@@ -81,6 +85,7 @@ void GPSPlayerEngine::setMovie(const std::filesystem::path& url) {
     mediaPlayer_->setMuted(volume_.isMuted());
     duration_ = mediaPlayer_->duration().seconds();
     cursor_.restart();
+    pausedMoveFrom_.reset();
     showInSurface(mediaPlayer_.get());
     shownEmptyPlayer_.reset();
 
@@ -119,7 +124,40 @@ void GPSPlayerEngine::Stop() {
 
 void GPSPlayerEngine::Seek(double fraction) {
     if (!mediaPlayer_) return;
-    if (const auto target = seekTarget(fraction, duration_)) mediaPlayer_->seek(*target);
+    const auto target = seekTarget(fraction, duration_);
+    if (!target) return;
+    awaitPausedMove();
+    mediaPlayer_->seek(*target);
+}
+
+void GPSPlayerEngine::SeekToSeconds(double seconds) {
+    if (!mediaPlayer_ || !std::isfinite(seconds)) return;
+    // Milliseconds are finer than any frame; the time is kept within the movie.
+    const double within = std::isfinite(duration_) ? std::clamp(seconds, 0.0, duration_) : std::max(seconds, 0.0);
+    if (!(within < 1e12)) return;
+    awaitPausedMove();
+    mediaPlayer_->seek(MediaTime::make(std::llround(within * 1000.0), 1000));
+}
+
+void GPSPlayerEngine::StepFrame(bool forward) {
+    if (!mediaPlayer_ || mediaPlayer_->timeControlStatus() == PlayerStatus::Playing) return;
+    awaitPausedMove();
+    mediaPlayer_->stepFrame(forward);
+}
+
+void GPSPlayerEngine::awaitPausedMove() {
+    if (mediaPlayer_->timeControlStatus() == PlayerStatus::Playing) return;
+    pausedMoveFrom_ = currentSeconds();
+    pausedMoveTicksLeft_ = kPausedMoveTicks;
+}
+
+bool GPSPlayerEngine::pausedMoveLanded() {
+    if (!pausedMoveFrom_) return false;
+    const double now = currentSeconds();
+    // Not-a-number before the move (nothing shown yet) counts as moved once a time is there.
+    const bool moved = std::isfinite(now) && !(now == *pausedMoveFrom_);
+    if (moved || --pausedMoveTicksLeft_ <= 0) pausedMoveFrom_.reset();
+    return moved;
 }
 
 void GPSPlayerEngine::StartTimer() {
@@ -145,9 +183,11 @@ void GPSPlayerEngine::tick() {
         if (delegate_) delegate_->UpdatedPlayingStatus(*this, status == PlayerStatus::Playing);
     }
     if (mediaPlayer_ && status == PlayerStatus::Playing) {
+        pausedMoveFrom_.reset();
         update();
         return;
     }
+    if (mediaPlayer_ && pausedMoveLanded()) update();
     // Exact equality: a movie at rest on its last frame stands at its duration. Not-a-number (no
     // player) never equals.
     if (currentSeconds() == duration_ && delegate_) delegate_->Completed(*this);

@@ -74,8 +74,14 @@ public:
     void Pause();
     // Unloads the movie; the track, duration and file stay until the next setMovie.
     void Stop();
-    // Seeks to a fraction of the movie, 0 the start and 1 the end; below 0 is the start.
+    // Seeks to a fraction of the movie, 0 the start and 1 the end; below 0 is the start. A seek
+    // that lands while paused reports the sample and the progress there, so that the read-outs
+    // show the picture on screen.
     void Seek(double fraction);
+    // Seeks to a time in seconds, with the same reports.
+    void SeekToSeconds(double seconds);
+    // One frame forward or back while paused (nothing while playing), reported like a seek.
+    void StepFrame(bool forward);
     void StartTimer();
     void StopTimer();
     // One track and progress update, as a tick while playing runs it.
@@ -89,6 +95,9 @@ public:
 
 private:
     void tick();
+    // While paused: the playback time has moved since a seek or a frame step was asked for.
+    bool pausedMoveLanded();
+    void awaitPausedMove();
     double currentSeconds() const;
     void showInSurface(MediaPlayer* player);
 
@@ -108,4 +117,7 @@ private:
     // The empty player left in the surface by Stop, kept alive while the surface shows it.
     std::unique_ptr<MediaPlayer> shownEmptyPlayer_;
     std::optional<std::filesystem::path> fileURL_;
+    // The time when a paused seek or step was asked for, and the ticks left to see it land.
+    std::optional<double> pausedMoveFrom_;
+    int pausedMoveTicksLeft_ = 0;
 };

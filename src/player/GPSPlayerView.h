@@ -16,6 +16,7 @@
 #include <memory>
 
 class GPSUtils;
+class QLabel;
 
 class GPSPlayerView final : public QWidget {
     Q_OBJECT
@@ -43,6 +44,12 @@ public:
     void toggleFullscreen();
     bool isInFullScreenMode() const { return fullScreen_.isFullScreen(); }
 
+    // A line over the movie's place saying why there is no picture ("File not found"), with a
+    // smaller second line; cleared when a movie plays again.
+    void showMessage(const QString& message, const QString& detail);
+    void clearMessage();
+    QString message() const;
+
 protected:
     // A shortcut override is judged by controlView, so the keys it takes reach it from here too.
     bool event(QEvent* event) override;
@@ -53,13 +60,16 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     // Scrolling over the movie does nothing.
     void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void forwardToControlView(QKeyEvent* event);
+    void placeMessage();
 
     std::unique_ptr<VideoSurface> surface_;
     // After surface_, so destroyed before it: the engine takes its players out of the surface.
     GPSPlayerEngine engine_;
     FullScreenSwitch fullScreen_;
     QPointer<QWidget> controlView_;
+    QLabel* message_;  // a child, over the surface
 };

@@ -34,6 +34,8 @@ public:
     virtual MediaTime duration() const = 0;
     // Seeks with the player's default tolerance.
     virtual void seek(MediaTime time) = 0;
+    // One frame forward or back, then paused; players that cannot step do nothing.
+    virtual void stepFrame(bool forward) { (void)forward; }
 };
 
 class MediaPlayerFactory {

@@ -11,6 +11,7 @@ namespace {
 const std::string unitTypeKey = "UnitType";
 const std::string volumeKey = "Volume";
 const std::string mapSourceKey = "MapSource";
+const std::string continuousPlayKey = "ContinuousPlay";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -87,3 +88,7 @@ std::vector<std::filesystem::path> GPSUtils::validURLsWithPasteboard(const FileP
 std::optional<std::string> GPSUtils::mapSource() const { return settings_.stringValue(mapSourceKey); }
 
 void GPSUtils::setMapSource(const std::string& source) { settings_.setStringValue(mapSourceKey, source); }
+
+bool GPSUtils::continuousPlay() const { return settings_.unsignedValue(continuousPlayKey).value_or(0) != 0; }
+
+void GPSUtils::setContinuousPlay(bool on) { settings_.setUnsignedValue(continuousPlayKey, on ? 1 : 0); }

@@ -33,6 +33,9 @@ public:
     // until the user chooses.
     std::optional<std::string> mapSource() const;
     void setMapSource(const std::string& source);
+    // Whether the end of a clip starts the next clip of the same trip; off until the user turns it on.
+    bool continuousPlay() const;
+    void setContinuousPlay(bool on);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

@@ -31,7 +31,7 @@ struct KeyRow {
 };
 
 TEST(PlayControlKeyMap, OnlyNoModifierAndCommandAloneGiveCommands) {
-    const std::array<KeyRow, 8> rows{{
+    const std::array<KeyRow, 10> rows{{
         {ControlKey::Left, GPSPlayControlBackward, GPSPlayControlPrev},
         {ControlKey::Right, GPSPlayControlForward, GPSPlayControlNext},
         {ControlKey::Down, GPSPlayControlVolumeDown, GPSPlayControlSpeedDown},
@@ -39,6 +39,8 @@ TEST(PlayControlKeyMap, OnlyNoModifierAndCommandAloneGiveCommands) {
         {ControlKey::Space, GPSPlayControlPlayPause, GPSPlayControlNone},
         {ControlKey::Backspace, GPSPlayControlNone, GPSPlayControlStop},
         {ControlKey::F, GPSPlayControlNone, GPSPlayControlToggleFullscreen},
+        {ControlKey::Comma, GPSPlayControlStepFrameBackward, GPSPlayControlNone},
+        {ControlKey::Period, GPSPlayControlStepFrameForward, GPSPlayControlNone},
         {ControlKey::Other, GPSPlayControlNone, GPSPlayControlNone},
     }};
     const std::array<uint64_t, 4> otherStatuses{kShift, kCtrl, kOption, kCmd | kShift};

@@ -37,6 +37,7 @@ public:
     void VolumeUp() override { record("VolumeUp", nullptr); }
     void SpeedDown() override { record("SpeedDown", nullptr); }
     void SpeedUp() override { record("SpeedUp", nullptr); }
+    void StepFrame(bool forward) override { record(forward ? "StepFrameForward" : "StepFrameBackward", nullptr); }
     void UpdatePlayingStatus() override { record("UpdatePlayingStatus", nullptr); }
 
     bool isButtonEnabled(TransportButton button) const override { return !disabled.contains(button); }
@@ -73,6 +74,9 @@ TEST(PlayControlDispatch, RunsEachCodesHandlerWithTheSendingViewUnlessItsButtonI
         {GPSPlayControlVolumeUp, std::nullopt, {"VolumeUp"}},
         {GPSPlayControlSpeedDown, std::nullopt, {"SpeedDown"}},
         {GPSPlayControlSpeedUp, std::nullopt, {"SpeedUp"}},
+        {GPSPlayControlStepFrameBackward, TransportButton::Snapshot, {"StepFrameBackward"}},
+        {GPSPlayControlStepFrameForward, TransportButton::Snapshot, {"StepFrameForward"}},
+        {14, std::nullopt, {}},
         {0, std::nullopt, {}},
         {~uint64_t{0}, std::nullopt, {}},
     };
@@ -174,6 +178,9 @@ TEST(TransportButtonStates, ControlsAtTheEdgesOfThePlaylistAndTheProgress) {
          {.ready = true, .curIndex = 1, .count = 3, .progress = std::nan("")},
          {1, 0, 0, 1, 1, 1, 1}},
         {"empty playlist wraps", {.ready = true, .curIndex = 0, .count = 0, .progress = 0.5}, {0, 1, 1, 1, 1, 1, 1}},
+        // A clip whose file went: only Previous and Next, to step past it.
+        {"failed middle entry", {.entryFailed = true, .curIndex = 1, .count = 3, .progress = 0.0}, {1, 0, 0, 1, 0, 0, 0}},
+        {"failed last entry", {.entryFailed = true, .curIndex = 2, .count = 3, .progress = 0.0}, {1, 0, 0, 0, 0, 0, 0}},
     };
     for (const auto& row : rows) EXPECT_EQ(flags(TransportButtonStates::controlsFor(row.in)), row.expected) << row.name;
 }

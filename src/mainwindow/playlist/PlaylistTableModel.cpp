@@ -25,6 +25,15 @@ void PlaylistTableModel::reloadData() {
     endResetModel();
 }
 
+void PlaylistTableModel::setRowDecorations(std::vector<RowDecoration> decorations) {
+    decorations_ = std::move(decorations);
+    if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+}
+
+const PlaylistTableModel::RowDecoration* PlaylistTableModel::decoration(std::size_t row) const {
+    return row < decorations_.size() ? &decorations_[row] : nullptr;
+}
+
 QString PlaylistTableModel::columnIdentifier(int column) {
     switch (column) {
         case FileColumn: return QStringLiteral("File");
@@ -61,12 +70,29 @@ QVariant PlaylistTableModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() < 0 || static_cast<std::size_t>(index.row()) >= playlist_.size())
         return {};
     const auto row = static_cast<std::size_t>(index.row());
+    const RowDecoration* decorated = decoration(row);
     switch (role) {
-        case Qt::DisplayRole:
-        case Qt::AccessibleTextRole: return cellText(row, index.column());
-        case Qt::ToolTipRole:
-            if (index.column() == FileColumn) return cellText(row, FileColumn);
-            return {};
+        case Qt::DisplayRole: return cellText(row, index.column());
+        case Qt::AccessibleTextRole:
+            if (index.column() == FileColumn && decorated != nullptr && !decorated->problem.isEmpty())
+                return cellText(row, FileColumn) + QStringLiteral(" (") + decorated->problem + QStringLiteral(")");
+            return cellText(row, index.column());
+        case Qt::AccessibleDescriptionRole:
+            return decorated != nullptr ? decorated->tripSummary : QString();
+        case Qt::ToolTipRole: {
+            if (index.column() != FileColumn) return {};
+            QString tip = cellText(row, FileColumn);
+            if (decorated != nullptr && !decorated->problem.isEmpty()) tip += QStringLiteral("\n") + decorated->problem;
+            if (decorated != nullptr && !decorated->tripSummary.isEmpty())
+                tip += QStringLiteral("\n") + decorated->tripSummary;
+            return tip;
+        }
+        case TripNumberRole:
+            return decorated != nullptr && decorated->tripNumber > 0 ? QVariant(decorated->tripNumber) : QVariant();
+        case StartsTripRole: return decorated != nullptr && decorated->startsTrip;
+        case TripHeadingRole: return decorated != nullptr ? decorated->tripHeading : QString();
+        case ProblemRole:
+            return decorated != nullptr && !decorated->problem.isEmpty() ? QVariant(decorated->problem) : QVariant();
         case Qt::TextAlignmentRole:
             if (index.column() == SizeColumn) return alignment(Qt::AlignRight);
             return alignment(Qt::AlignLeft);

@@ -7,16 +7,36 @@
 #include <QAbstractTableModel>
 #include <QString>
 
+#include <vector>
+
 class PlaylistTableModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { FileColumn = 0, DateTimeColumn = 1, SizeColumn = 2, ColumnCount = 3 };
+    // What the table shows of a row beyond its three texts: the trip it belongs to and a problem
+    // with its file.
+    enum Role {
+        TripNumberRole = Qt::UserRole + 1,  // int, from 1; absent while unknown
+        StartsTripRole,                     // bool: the first row of a trip of several rows or a known one
+        TripHeadingRole,                    // QString on a trip's first row, such as "Trip 2 · … · 8.4 km"
+        ProblemRole,                        // QString such as "File not found"; absent when the file is fine
+    };
+    struct RowDecoration {
+        int tripNumber = 0;  // 0: unknown
+        bool startsTrip = false;
+        QString tripHeading;
+        QString tripSummary;  // the trip in a sentence, for tooltips and screen readers
+        QString problem;
+    };
 
     // The playlist must outlive the model.
     explicit PlaylistTableModel(const Playlist& playlist, QObject* parent = nullptr);
 
     // The playlist changed: every view drops its rows and asks again.
     void reloadData();
+    // One per playlist row (missing ones count as plain rows); the views repaint, keeping their
+    // selection.
+    void setRowDecorations(std::vector<RowDecoration> decorations);
 
     // "File", "DateTime", "Size"; empty for any other column.
     static QString columnIdentifier(int column);
@@ -30,6 +50,8 @@ public:
 
 private:
     QString cellText(std::size_t row, int column) const;
+    const RowDecoration* decoration(std::size_t row) const;
 
     const Playlist& playlist_;
+    std::vector<RowDecoration> decorations_;
 };

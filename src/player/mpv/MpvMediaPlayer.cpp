@@ -258,6 +258,12 @@ void MpvMediaPlayer::seekNow(double seconds) {
     command({"seek", target.c_str(), "absolute"}, kSeekReply);
 }
 
+void MpvMediaPlayer::stepFrame(bool forward) {
+    if (!state_.loaded) return;
+    // mpv plays exactly one frame and pauses again; stepping back decodes from the keyframe before.
+    command({forward ? "frame-step" : "frame-back-step"});
+}
+
 void MpvMediaPlayer::frameShown() {
     ++framesShown_;
     if (!firstFrameMs_) {

@@ -43,6 +43,7 @@ public:
     MediaTime currentTime() const override { return state_.currentTime(info_.duration); }
     MediaTime duration() const override { return info_.duration; }
     void seek(MediaTime time) override;
+    void stepFrame(bool forward) override;
 
     MpvCore renderCore() const override { return session_->core(); }
     bool fileStarted() const override { return fileStarted_ && holdsCore(); }

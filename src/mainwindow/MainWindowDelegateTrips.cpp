@@ -1,0 +1,188 @@
+// The controller's trips: the clips' tracks read in the background as the playlist fills, the trips
+// they form as the table shows them, continuous play through a trip, the timeline of the loaded
+// clip or trip with seeking anywhere in it, and a clip whose file no longer opens.
+
+#include "MainWindowDelegate.h"
+
+#include "ClipCatalog.h"
+#include "GPSPlayerView.h"
+#include "GPSUtils.h"
+#include "PlaylistTableModel.h"
+#include "SliderFraction.h"
+#include "TimelineSeries.h"
+#include "TripText.h"
+
+#include <QFile>
+#include <QAction>
+#include <QLabel>
+#include <QSlider>
+
+#include <cmath>
+#include <system_error>
+
+namespace {
+
+QString qText(const std::string& text) { return QString::fromStdString(text); }
+
+QString tripSummary(const TripInfo& trip, std::size_t number, std::size_t tripCount) {
+    QString text = QStringLiteral("Trip %1 of %2").arg(number).arg(tripCount);
+    if (!trip.known) return text;
+    text += QStringLiteral(": %1 clip%2").arg(trip.span.count).arg(trip.span.count == 1 ? "" : "s");
+    if (const auto start = trip.startSampleSeconds ? trip.startSampleSeconds : trip.startCreationSeconds)
+        text += QStringLiteral(", from ") + qText(clockText(*start));
+    text += QStringLiteral(", ") + qText(durationText(trip.durationSeconds)) + QStringLiteral(", ") +
+            qText(distanceText(trip.distanceMetres));
+    return text;
+}
+
+}  // namespace
+
+void MainWindowDelegate::refreshTrips() {
+    if (clipCatalog_ == nullptr) {
+        clipCatalog_ = new ClipCatalog(this);
+        QObject::connect(clipCatalog_, &ClipCatalog::clipsRead, this, [this] { refreshTrips(); });
+    }
+    std::vector<std::filesystem::path> files;
+    files.reserve(playlist.size());
+    for (const PlaylistItem& item : playlist.items()) files.push_back(item.URL());
+    clipCatalog_->request(files);
+
+    std::vector<std::optional<ClipFacts>> rows;
+    rows.reserve(files.size());
+    for (const auto& file : files) {
+        const ClipRecord* record = clipCatalog_->find(file);
+        rows.push_back(record != nullptr ? std::optional(record->facts) : std::nullopt);
+    }
+    const TripSpan shownSpan = timelineSpan_;
+    const bool shownKnown = !tripIndex_.trips().empty() && curIndex >= 0 &&
+                            static_cast<std::size_t>(curIndex) < rows.size() &&
+                            tripIndex_.tripOfRow(curIndex) && tripIndex_.trips()[*tripIndex_.tripOfRow(curIndex)].known;
+    tripIndex_ = TripIndex(rows);
+
+    if (playlistModel_ != nullptr) {
+        std::vector<PlaylistTableModel::RowDecoration> decorations(files.size());
+        const std::vector<TripInfo>& trips = tripIndex_.trips();
+        for (std::size_t trip = 0; trip < trips.size(); ++trip) {
+            const TripInfo& info = trips[trip];
+            // A lone clip not read yet is no trip to speak of.
+            if (!info.known && info.span.count == 1) continue;
+            const QString summary = tripSummary(info, trip + 1, trips.size());
+            for (std::size_t row = info.span.first; row < info.span.first + info.span.count; ++row) {
+                auto& decoration = decorations[row];
+                decoration.tripNumber = static_cast<int>(trip + 1);
+                decoration.tripSummary = summary;
+            }
+            decorations[info.span.first].startsTrip = true;
+            decorations[info.span.first].tripHeading = qText(tripHeadingText(info, trip + 1));
+        }
+        for (std::size_t row = 0; row < files.size(); ++row) {
+            const auto problem = clipProblems_.find(files[row]);
+            if (problem != clipProblems_.end()) decorations[row].problem = problem->second;
+        }
+        playlistModel_->setRowDecorations(std::move(decorations));
+    }
+
+    // The timeline follows what became known of the loaded clip's trip, and only that.
+    const bool nowKnown = curIndex >= 0 && tripIndex_.tripOfRow(curIndex) &&
+                          tripIndex_.trips()[*tripIndex_.tripOfRow(curIndex)].known;
+    const TripSpan span = curIndex >= 0 && settings_.continuousPlay() ? tripIndex_.spanOfRow(curIndex) : shownSpan;
+    if (span != shownSpan || nowKnown != shownKnown) refreshTimeline();
+}
+
+std::optional<int64_t> MainWindowDelegate::continuationOf(int64_t row) const {
+    if (!settings_.continuousPlay() || row < 0) return std::nullopt;
+    const TripSpan span = tripIndex_.spanOfRow(static_cast<std::size_t>(row));
+    const auto next = static_cast<std::size_t>(row) + 1;
+    if (next >= span.first + span.count || next >= playlist.size()) return std::nullopt;
+    return static_cast<int64_t>(next);
+}
+
+void MainWindowDelegate::showClipProblem(int64_t row) {
+    const std::filesystem::path& file = playlistURL(row);
+    std::error_code error;
+    const QString problem = std::filesystem::exists(file, error) ? QStringLiteral("Not a movie any more")
+                                                                 : QStringLiteral("File not found");
+    clipProblems_[file] = problem;
+    if (outlets_.player != nullptr) outlets_.player->showMessage(problem, QFile::decodeName(file.c_str()));
+    // What was read of it before no longer holds.
+    if (clipCatalog_ != nullptr) clipCatalog_->forget(file);
+    refreshTrips();
+}
+
+void MainWindowDelegate::OnContinuousPlayChanged(bool on) {
+    settings_.setContinuousPlay(on);
+    if (outlets_.actionContinuousPlay != nullptr) outlets_.actionContinuousPlay->setChecked(on);
+    refreshTimeline();
+}
+
+void MainWindowDelegate::refreshTimeline() {
+    const GPSPlayerEngine* player = engine();
+    TripSpan span;
+    if (curIndex >= 0 && static_cast<uint64_t>(curIndex) < playlist.size())
+        span = settings_.continuousPlay() ? tripIndex_.spanOfRow(static_cast<std::size_t>(curIndex))
+                                          : TripSpan{static_cast<std::size_t>(curIndex), 1};
+    std::vector<TimelineClip> clips;
+    std::vector<std::shared_ptr<const std::vector<GPSData>>> keep;
+    for (std::size_t row = span.first; row < span.first + span.count; ++row) {
+        TimelineClip clip;
+        const ClipRecord* record = clipCatalog_ != nullptr ? clipCatalog_->find(playlist.at(row).URL()) : nullptr;
+        if (record != nullptr) {
+            clip.track = *record->track;
+            clip.durationSeconds = record->facts.summary.durationSeconds;
+        }
+        // The loaded clip: the player's own track and its duration as the player reads it.
+        if (static_cast<int64_t>(row) == curIndex && player != nullptr && player->IsReady()) {
+            if (player->gpsDataList()) clip.track = *player->gpsDataList();
+            if (std::isfinite(player->duration()) && player->duration() > 0) clip.durationSeconds = player->duration();
+        }
+        clips.push_back(clip);
+    }
+    std::vector<double> durations;
+    for (const TimelineClip& clip : clips) durations.push_back(clip.durationSeconds);
+    timelineSpan_ = span;
+    timelineClock_ = TripClock(std::move(durations));
+    showTimelineSeries(buildTimelineSeries(clips), clips);
+    showTimelinePosition(currentClipSeconds());
+}
+
+double MainWindowDelegate::currentClipSeconds() const {
+    const GPSPlayerEngine* player = engine();
+    if (player == nullptr || !player->IsReady() || outlets_.durationSlider == nullptr) return 0.0;
+    const double seconds = sliderFraction(*outlets_.durationSlider) * player->duration();
+    return std::isfinite(seconds) ? seconds : 0.0;
+}
+
+void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips) {
+    (void)clips;
+    timelineSeries_ = std::move(series);
+}
+
+void MainWindowDelegate::showTimelineCursor(double seconds) { (void)seconds; }
+
+double MainWindowDelegate::timelinePosition() const { return timelinePosition_; }
+
+void MainWindowDelegate::showTimelinePosition(double clipSeconds) {
+    double seconds = 0;
+    if (timelineSpan_.count > 0 && curIndex >= static_cast<int64_t>(timelineSpan_.first) &&
+        static_cast<std::size_t>(curIndex) < timelineSpan_.first + timelineSpan_.count && std::isfinite(clipSeconds))
+        seconds = timelineClock_.tripSecondsAt(static_cast<std::size_t>(curIndex) - timelineSpan_.first, clipSeconds);
+    timelinePosition_ = seconds;
+    if (outlets_.txtElapsed != nullptr)
+        outlets_.txtElapsed->setText(qText(durationText(seconds)) + QStringLiteral(" / ") +
+                                     qText(durationText(timelineClock_.totalSeconds())));
+    showTimelineCursor(seconds);
+}
+
+void MainWindowDelegate::seekTimeline(double seconds) {
+    GPSPlayerEngine* player = engine();
+    if (player == nullptr || timelineSpan_.count == 0 || timelineClock_.clipCount() == 0) return;
+    const TripClock::Place place = timelineClock_.placeAt(seconds);
+    const auto row = static_cast<int64_t>(timelineSpan_.first + place.clip);
+    if (row != curIndex || !player->IsReady()) {
+        // Another clip of the trip: it plays if the movie was playing, else waits on the picture.
+        const bool wasPlaying = player->IsPlaying();
+        playWithIndex(row, wasPlaying);
+    }
+    player->SeekToSeconds(place.seconds);
+    showTimelinePosition(place.seconds);
+}
