@@ -44,18 +44,23 @@ TimelineSeries buildTimelineSeries(std::span<const TimelineClip> clips) {
         // Position 0 is the empty lead-in; record k is shown from second k of the clip.
         for (std::size_t k = 1; k < track.size(); ++k) {
             const double clipSeconds = double(k);
-            if (clock.durationOf(c) > 0 && clipSeconds >= clock.durationOf(c)) break;
+            // Past the clip's end (all of a clip of unknown length) the record has no place on the line.
+            if (clipSeconds >= clock.durationOf(c)) break;
+            const float speed = track[k].Speed();
+            const TimelinePoint point{clock.tripSecondsAt(c, clipSeconds), std::isfinite(speed) ? speed : 0.0f, c, k};
             const std::optional<int64_t> recorded = sampleClockSeconds(track[k].data().rmcinfo);
             const bool datesAgree = recorded && lastRecorded &&
                                     std::llabs(*recorded - *lastRecorded) <= TimelineSeries::kMaxSampleGapSeconds;
             // Undated records join their neighbour in the same clip; across clips only dates tell.
             const bool nextInClip = lastPlace && lastPlace->first == c && lastPlace->second + 1 == k;
-            const bool joins = lastPlace && (datesAgree || (nextInClip && (!recorded || !lastRecorded)));
+            // A stretch of the line without samples (a clip without GPS between) is a gap too,
+            // whatever the dates say.
+            const bool adjacentOnLine =
+                lastPlace && point.seconds - series.runs.back().back().seconds <= TimelineSeries::kMaxSampleGapSeconds;
+            const bool joins = adjacentOnLine && (datesAgree || (nextInClip && (!recorded || !lastRecorded)));
             if (!joins) series.runs.emplace_back();
             lastPlace = std::pair{c, k};
             lastRecorded = recorded;
-            const float speed = track[k].Speed();
-            TimelinePoint point{clock.tripSecondsAt(c, clipSeconds), std::isfinite(speed) ? speed : 0.0f, c, k};
             series.runs.back().push_back(point);
             if (!series.highest || point.speed > series.highest->speed) series.highest = point;
         }

@@ -14,7 +14,9 @@ TripClock::TripClock(std::vector<double> clipDurations) : durations_(std::move(c
 
 TripClock::Place TripClock::placeAt(double tripSeconds) const {
     if (durations_.empty()) return {};
-    if (!(tripSeconds > 0)) return {0, 0};
+    if (!(total_ > 0)) return {0, 0};
+    // Before the start (or NaN) is the start: the first clip with a length, as at any other joint.
+    if (!(tripSeconds > 0)) tripSeconds = 0;
     if (tripSeconds >= total_) return {durations_.size() - 1, durations_.back()};
     // The last clip that starts at or before the time: a joint belongs to the later clip.
     const auto after = std::upper_bound(starts_.begin(), starts_.end(), tripSeconds);
@@ -23,5 +25,6 @@ TripClock::Place TripClock::placeAt(double tripSeconds) const {
 }
 
 double TripClock::tripSecondsAt(std::size_t clip, double clipSeconds) const {
-    return starts_[clip] + std::clamp(clipSeconds, 0.0, durations_[clip]);
+    // NaN would pass std::clamp unchanged.
+    return starts_[clip] + (clipSeconds > 0 ? std::min(clipSeconds, durations_[clip]) : 0.0);
 }
