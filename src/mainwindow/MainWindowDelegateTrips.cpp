@@ -24,17 +24,6 @@ namespace {
 
 QString qText(const std::string& text) { return QString::fromStdString(text); }
 
-QString tripSummary(const TripInfo& trip, std::size_t number, std::size_t tripCount) {
-    QString text = QStringLiteral("Trip %1 of %2").arg(number).arg(tripCount);
-    if (!trip.known) return text;
-    text += QStringLiteral(": %1 clip%2").arg(trip.span.count).arg(trip.span.count == 1 ? "" : "s");
-    if (const auto start = trip.startSampleSeconds ? trip.startSampleSeconds : trip.startCreationSeconds)
-        text += QStringLiteral(", from ") + qText(clockText(*start));
-    text += QStringLiteral(", ") + qText(durationText(trip.durationSeconds)) + QStringLiteral(", ") +
-            qText(distanceText(trip.distanceMetres));
-    return text;
-}
-
 }  // namespace
 
 void MainWindowDelegate::refreshTrips() {
@@ -66,14 +55,14 @@ void MainWindowDelegate::refreshTrips() {
             const TripInfo& info = trips[trip];
             // A lone clip not read yet is no trip to speak of.
             if (!info.known && info.span.count == 1) continue;
-            const QString summary = tripSummary(info, trip + 1, trips.size());
+            const QString summary = qText(tripSummaryText(info, trip + 1, trips.size()));
             for (std::size_t row = info.span.first; row < info.span.first + info.span.count; ++row) {
                 auto& decoration = decorations[row];
                 decoration.tripNumber = static_cast<int>(trip + 1);
                 decoration.tripSummary = summary;
             }
             decorations[info.span.first].startsTrip = true;
-            decorations[info.span.first].tripHeading = qText(tripHeadingText(info, trip + 1));
+            decorations[info.span.first].tripHeading = qText(tripHeadingText(info));
         }
         for (std::size_t row = 0; row < files.size(); ++row) {
             const auto problem = clipProblems_.find(files[row]);

@@ -55,12 +55,16 @@ std::string clockText(int64_t seconds) {
     return text;
 }
 
-std::string tripHeadingText(const TripInfo& trip, std::size_t number) {
-    std::string text = "Trip " + std::to_string(number);
+std::string tripHeadingText(const TripInfo& trip) {
+    if (!trip.known) return "…";
+    return durationText(trip.durationSeconds) + " · " + distanceText(trip.distanceMetres);
+}
+
+std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount) {
+    std::string text = "Trip " + std::to_string(number) + " of " + std::to_string(tripCount);
     if (!trip.known) return text;
+    text += ": " + std::to_string(trip.span.count) + (trip.span.count == 1 ? " clip" : " clips");
     if (const auto start = trip.startSampleSeconds ? trip.startSampleSeconds : trip.startCreationSeconds)
-        text += " · " + clockText(*start);
-    text += " · " + durationText(trip.durationSeconds);
-    text += " · " + distanceText(trip.distanceMetres);
-    return text;
+        text += ", from " + clockText(*start);
+    return text + ", " + durationText(trip.durationSeconds) + ", " + distanceText(trip.distanceMetres);
 }

@@ -1,5 +1,6 @@
 #pragma once
-// How the playlist speaks of a trip: "Trip 2 · 2024-05-07 14:03 · 12:40 · 8.4 km".
+// How the playlist speaks of a trip: a short label on its first row ("12:40 · 8.4 km") and a
+// sentence for tooltips and screen readers.
 
 #include "TripIndex.h"
 
@@ -13,5 +14,7 @@ std::string durationText(double seconds);
 std::string distanceText(double metres);
 // "yyyy-MM-dd HH:mm" of seconds on the sample clock's scale (or of a creation time read in UTC).
 std::string clockText(int64_t seconds);
-// The heading of a trip, numbered from 1; an unknown trip says only its number.
-std::string tripHeadingText(const TripInfo& trip, std::size_t number);
+// The label on a trip's first row: its length and distance; "…" while not known.
+std::string tripHeadingText(const TripInfo& trip);
+// "Trip 2 of 5: 4 clips, from 2024-05-07 14:03, 12:40, 8.4 km"; an unknown trip says only which it is.
+std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount);

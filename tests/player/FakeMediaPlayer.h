@@ -20,6 +20,7 @@ struct FakePlayerState {
     int plays = 0;
     int pauses = 0;
     std::vector<MediaTime> seeks;
+    std::vector<bool> frameSteps;  // true: forward
     bool destroyed = false;
 
     void at(double seconds) { currentTime = MediaTime::make(static_cast<int64_t>(seconds * 1000), 1000); }
@@ -54,6 +55,7 @@ public:
     MediaTime currentTime() const override { return s_->hasItem ? s_->currentTime : MediaTime{}; }
     MediaTime duration() const override { return s_->hasItem ? s_->duration : MediaTime{}; }
     void seek(MediaTime time) override { s_->seeks.push_back(time); }
+    void stepFrame(bool forward) override { s_->frameSteps.push_back(forward); }
 
 private:
     std::shared_ptr<FakePlayerState> s_;

@@ -134,14 +134,19 @@ TEST_F(GPSPlayerEngineTest, ReportsTheSampleOfEachWholeSecondAndProgressOnEveryT
     EXPECT_EQ(delegate_.samples, Samples{0});
 }
 
-TEST_F(GPSPlayerEngineTest, StatusChangesAreReportedOnceAndAPausedMovieReportsNoSample) {
+TEST_F(GPSPlayerEngineTest, StatusChangesAreReportedOnceAndAPausedSeekReportsWhereItLands) {
     const auto state = load();
     tick();
+    EXPECT_TRUE(delegate_.samples.empty()) << "a paused movie that nobody moves reports nothing";
     engine_->Seek(0.5);
+    tick();  // not landed yet
+    EXPECT_TRUE(delegate_.samples.empty());
     tickAt(*state, 5.0);
     EXPECT_EQ(delegate_.statuses, Statuses{false}) << "a fresh player is paused, not waiting";
-    EXPECT_TRUE(delegate_.samples.empty());
-    EXPECT_TRUE(delegate_.progress.empty());
+    EXPECT_EQ(delegate_.samples, Samples{5}) << "the read-outs show the picture on screen";
+    EXPECT_EQ(delegate_.progress.size(), 1u);
+    tick();
+    EXPECT_EQ(delegate_.progress.size(), 1u) << "reported once";
     engine_->Pause();  // not playing: nothing to do
     engine_->Resume();
     engine_->Resume();  // already playing
@@ -162,6 +167,22 @@ TEST_F(GPSPlayerEngineTest, StatusChangesAreReportedOnceAndAPausedMovieReportsNo
     waiting->status = PlayerStatus::Waiting;
     tick();
     EXPECT_TRUE(delegate_.statuses.empty()) << "the first tick's status equals the start value";
+}
+
+TEST_F(GPSPlayerEngineTest, FrameStepsOnlyWhilePausedAndReportsWhenTheTimeMoves) {
+    const auto state = load();
+    tickAt(*state, 3.5);
+    engine_->StepFrame(false);
+    tickAt(*state, 3.5 - 1.0 / 30);
+    EXPECT_EQ(delegate_.samples, Samples{3});
+    // A step at either end moves nothing: after a while nothing is awaited any more.
+    engine_->StepFrame(true);
+    for (int i = 0; i < 30; ++i) tick();
+    tickAt(*state, 0.5);
+    EXPECT_EQ(delegate_.samples, Samples{3}) << "a paused movie moved by nobody reports nothing";
+    state->status = PlayerStatus::Playing;
+    engine_->StepFrame(true);
+    EXPECT_EQ(state->frameSteps, (std::vector{false, true}));
 }
 
 TEST_F(GPSPlayerEngineTest, CompletesOnEveryTickAtRestAtTheEndOnly) {

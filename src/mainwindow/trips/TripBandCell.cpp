@@ -19,7 +19,7 @@ int paintLabel(QPainter& painter, const QRect& cell, const QString& text, const 
     small.setPointSizeF(std::max(7.0, font.pointSizeF() - 1.5));
     small.setBold(true);
     const QFontMetrics metrics(small);
-    const int width = std::min(metrics.horizontalAdvance(text) + 2 * kLabelPadding, cell.width() / 2);
+    const int width = std::min(metrics.horizontalAdvance(text) + 2 * kLabelPadding, cell.width() * 3 / 5);
     const QRectF label(cell.right() - kLabelMargin - width + 1, cell.top() + 2.5, width, cell.height() - 5);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
