@@ -63,6 +63,7 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& a
         .mapTileFolder = ui.mapTileFolder,
         .mapWorkOffline = ui.mapWorkOffline,
         .txtElapsed = ui.txtElapsed,
+        .txtTripSummary = ui.txtTripSummary,
         .actionContinuousPlay = ui.actionContinuousPlay,
         .rateItems = {ui.actionRate025, ui.actionRate05, ui.actionRate1, ui.actionRate2, ui.actionRate4,
                       ui.actionRate8},

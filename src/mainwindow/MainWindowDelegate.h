@@ -119,6 +119,8 @@ public:
     // Trips (mainwindow/MainWindowDelegateTrips.cpp): the clips' tracks read in the background,
     // the trips they form, continuous play through a trip, and seeking anywhere in it.
     void OnContinuousPlayChanged(bool on);
+    // The line under the playlist: the trip of the selected row.
+    void RefreshTripSummary();
     // Seconds on the timeline's line (the loaded clip's, or its trip's under continuous play).
     void seekTimeline(double seconds);
     const TripIndex& tripIndex() const { return tripIndex_; }

@@ -32,6 +32,8 @@ void MainWindowDelegate::setupPlaylistTable() {
     if (table == nullptr) return;
     if (playlistModel_ == nullptr) playlistModel_ = new PlaylistTableModel(playlist, this);
     table->setModel(playlistModel_);
+    QObject::connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                     [this] { RefreshTripSummary(); }, Qt::UniqueConnection);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);

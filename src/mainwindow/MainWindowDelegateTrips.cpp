@@ -70,12 +70,23 @@ void MainWindowDelegate::refreshTrips() {
         }
         playlistModel_->setRowDecorations(std::move(decorations));
     }
+    RefreshTripSummary();
 
     // The timeline follows what became known of the loaded clip's trip, and only that.
     const bool nowKnown = curIndex >= 0 && tripIndex_.tripOfRow(curIndex) &&
                           tripIndex_.trips()[*tripIndex_.tripOfRow(curIndex)].known;
     const TripSpan span = curIndex >= 0 && settings_.continuousPlay() ? tripIndex_.spanOfRow(curIndex) : shownSpan;
     if (span != shownSpan || nowKnown != shownKnown) refreshTimeline();
+}
+
+void MainWindowDelegate::RefreshTripSummary() {
+    if (outlets_.txtTripSummary == nullptr) return;
+    const int64_t row = selectedRow() >= 0 ? selectedRow() : curIndex;
+    const auto trip = row >= 0 ? tripIndex_.tripOfRow(static_cast<std::size_t>(row)) : std::nullopt;
+    const QString text = trip ? qText(tripSummaryText(tripIndex_.trips()[*trip], *trip + 1, tripIndex_.trips().size()))
+                              : QString();
+    outlets_.txtTripSummary->setText(text);
+    outlets_.txtTripSummary->setAccessibleName(text);
 }
 
 std::optional<int64_t> MainWindowDelegate::continuationOf(int64_t row) const {
@@ -93,8 +104,7 @@ void MainWindowDelegate::showClipProblem(int64_t row) {
                                                                  : QStringLiteral("File not found");
     clipProblems_[file] = problem;
     if (outlets_.player != nullptr) outlets_.player->showMessage(problem, QFile::decodeName(file.c_str()));
-    // What was read of it before no longer holds.
-    if (clipCatalog_ != nullptr) clipCatalog_->forget(file);
+    // What was read of it before still places it in its trip, so that the trip goes on past it.
     refreshTrips();
 }
 

@@ -71,6 +71,8 @@ struct MainWindowOutlets {
 
     // "1:42 / 3:00" beside the position slider: the clip's, or the trip's under continuous play.
     QLabel* txtElapsed = nullptr;
+    // Under the playlist: the trip of the selected row in a sentence.
+    QLabel* txtTripSummary = nullptr;
     QAction* actionContinuousPlay = nullptr;
     // The Playback menu's rates, each carrying its rate as data; the one playing is checked.
     std::array<QAction*, 6> rateItems{};

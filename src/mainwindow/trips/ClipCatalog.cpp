@@ -68,15 +68,6 @@ void ClipCatalog::request(const std::vector<std::filesystem::path>& files) {
     wake_.notify_all();
 }
 
-void ClipCatalog::forget(const std::filesystem::path& file) {
-    records_.erase(file);
-    {
-        const std::lock_guard lock(mutex_);
-        asked_.erase(file);
-    }
-    request({file});
-}
-
 const ClipRecord* ClipCatalog::find(const std::filesystem::path& file) const {
     const auto it = records_.find(file);
     return it == records_.end() ? nullptr : &it->second;
@@ -114,7 +105,6 @@ void ClipCatalog::deliver() {
         batch.swap(done_);
         deliveryPosted_ = false;
     }
-    // A file read twice (forgotten meanwhile) keeps the later reading.
     for (auto& [file, record] : batch) records_[file] = std::move(record);
     if (!batch.empty()) emit clipsRead();
 }

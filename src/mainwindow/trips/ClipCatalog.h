@@ -43,8 +43,6 @@ public:
 
     // Queues the files not yet read or queued, in order.
     void request(const std::vector<std::filesystem::path>& files);
-    // Reads the file again (it changed, or went).
-    void forget(const std::filesystem::path& file);
     const ClipRecord* find(const std::filesystem::path& file) const;
     // Files queued or being read.
     std::size_t pending() const;

@@ -19,7 +19,11 @@ int paintLabel(QPainter& painter, const QRect& cell, const QString& text, const 
     small.setPointSizeF(std::max(7.0, font.pointSizeF() - 1.5));
     small.setBold(true);
     const QFontMetrics metrics(small);
-    const int width = std::min(metrics.horizontalAdvance(text) + 2 * kLabelPadding, cell.width() * 3 / 5);
+    // Where the whole label would crowd out the file name, its first part ("12:40") stands for it.
+    const int room = cell.width() * 2 / 5;
+    QString shown = text;
+    if (metrics.horizontalAdvance(shown) + 2 * kLabelPadding > room) shown = text.section(QStringLiteral(" · "), 0, 0);
+    const int width = std::min(metrics.horizontalAdvance(shown) + 2 * kLabelPadding, std::max(room, 24));
     const QRectF label(cell.right() - kLabelMargin - width + 1, cell.top() + 2.5, width, cell.height() - 5);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -29,7 +33,7 @@ int paintLabel(QPainter& painter, const QRect& cell, const QString& text, const 
     painter.setFont(small);
     painter.setPen(ink);
     painter.drawText(label.adjusted(kLabelPadding, 0, -kLabelPadding, 0), Qt::AlignCenter,
-                     metrics.elidedText(text, Qt::ElideRight, width - 2 * kLabelPadding));
+                     metrics.elidedText(shown, Qt::ElideRight, width - 2 * kLabelPadding));
     painter.restore();
     return width + 2 * kLabelMargin;
 }
