@@ -27,6 +27,5 @@ double TimelineScale::yAtSpeed(double speed) const {
     const double scaleTop = maxSpeed > 0 ? maxSpeed : 1;
     // An unknown speed sits on the bottom line, with speed 0.
     const double share = std::isnan(speed) ? 0 : speed / scaleTop;
-    if (!(height > 0)) return top;
-    return std::clamp(top + height * (1 - share), top, top + height);
+    return within(top + height * (1 - share), top, height);
 }

@@ -23,15 +23,9 @@ struct Geodesic {
     std::optional<double> azimuth;  // radians clockwise from north; absent for coincident points
 };
 
-// The longitude difference in (-pi, pi], so that the shorter way round is taken.
-double wrappedLongitude(double difference) {
-    difference = std::remainder(difference, 2 * std::numbers::pi);
-    return difference == -std::numbers::pi ? std::numbers::pi : difference;
-}
-
 Geodesic sphericalGeodesic(GeoPoint from, GeoPoint to) {
     const double phi1 = radians(from.latitude), phi2 = radians(to.latitude);
-    const double dLambda = wrappedLongitude(radians(to.longitude - from.longitude));
+    const double dLambda = radians(to.longitude - from.longitude);
     const double sinHalfPhi = std::sin((phi2 - phi1) / 2), sinHalfLambda = std::sin(dLambda / 2);
     const double h = sinHalfPhi * sinHalfPhi + std::cos(phi1) * std::cos(phi2) * sinHalfLambda * sinHalfLambda;
     const double y = std::sin(dLambda) * std::cos(phi2);
@@ -44,7 +38,7 @@ Geodesic sphericalGeodesic(GeoPoint from, GeoPoint to) {
 // Vincenty's inverse formula. It does not converge for some nearly antipodal points; those fall
 // back to the great circle on the mean sphere, off by at most ~0.1 % there but always finite.
 Geodesic ellipsoidalGeodesic(GeoPoint from, GeoPoint to) {
-    const double L = wrappedLongitude(radians(to.longitude - from.longitude));
+    const double L = radians(to.longitude - from.longitude);
     const double U1 = std::atan((1 - kFlattening) * std::tan(radians(from.latitude)));
     const double U2 = std::atan((1 - kFlattening) * std::tan(radians(to.latitude)));
     const double sinU1 = std::sin(U1), cosU1 = std::cos(U1);

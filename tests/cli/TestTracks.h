@@ -2,6 +2,7 @@
 // Samples and tracks made in memory, as the loader would make them from a camera's records.
 
 #include "GPSDataLoader.h"
+#include "GPSSamples.h"
 #include "SpeedUnit.h"
 #include "TrackWriter.h"
 
@@ -9,15 +10,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-struct RecordTime {
-    uint32_t year = 2016, month = 12, day = 31, hour = 20, minute = 5, second = 9;
-};
-
-// A fixed-point record: coordinates in 1e-7 degree, speed in cm/s, a four-digit year.
-GPSData fixedPointSample(int32_t latitude, int32_t longitude, uint32_t centimetresPerSecond, RecordTime time = {});
-// A scaled record with raw floats, for values the fixed-point form cannot give (NaN, -0, huge).
-GPSData scaledSample(float latitude, float longitude, float speed, char ns = 'N', char ew = 'E');
 
 // A track as the loader returns it: maxSpeed the largest stored speed.
 GPSTrack trackOf(std::vector<GPSData> samples);
