@@ -30,10 +30,12 @@ constexpr int kProgressDelayMs = 400;
 void MainWindowDelegate::setupPlaylistTable() {
     GPSTableView* table = outlets_.playListView;
     if (table == nullptr) return;
-    if (playlistModel_ == nullptr) playlistModel_ = new PlaylistTableModel(playlist, this);
+    const bool firstSetUp = playlistModel_ == nullptr;
+    if (firstSetUp) playlistModel_ = new PlaylistTableModel(playlist, this);
     table->setModel(playlistModel_);
-    QObject::connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                     [this] { RefreshTripSummary(); }, Qt::UniqueConnection);
+    if (firstSetUp)
+        QObject::connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                         [this] { RefreshTripSummary(); });
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
