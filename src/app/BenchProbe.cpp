@@ -10,6 +10,7 @@
 namespace {
 
 Q_LOGGING_CATEGORY(lcBench, "dashtrack.bench", QtWarningMsg)
+Q_LOGGING_CATEGORY(lcBenchFrames, "dashtrack.bench.frames", QtWarningMsg)
 
 // Microseconds on CLOCK_MONOTONIC, the clock a benchmark script can read too.
 long long monotonicMicroseconds() {
@@ -19,7 +20,9 @@ long long monotonicMicroseconds() {
 
 }  // namespace
 
-bool BenchProbe::wanted(bool quitAtFirstFrame) { return quitAtFirstFrame || lcBench().isDebugEnabled(); }
+bool BenchProbe::wanted(bool quitAtFirstFrame) {
+    return quitAtFirstFrame || lcBench().isDebugEnabled() || lcBenchFrames().isDebugEnabled();
+}
 
 BenchProbe::BenchProbe(bool quitAtFirstFrame, QObject* parent) : QObject(parent), quitAtFirstFrame_(quitAtFirstFrame) {
     setFirstFrameListener(this);
@@ -33,6 +36,10 @@ void BenchProbe::firstFrameShown() {
     // Queued: the frame is being painted now, and the paint should finish first.
     if (quitAtFirstFrame_)
         QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+void BenchProbe::frameShown() {
+    qCDebug(lcBenchFrames).noquote() << "painted-frame monotonic-us=" + QString::number(monotonicMicroseconds());
 }
 
 bool BenchProbe::eventFilter(QObject* watched, QEvent* event) {

@@ -18,6 +18,8 @@ public:
     ~BenchProbe() override;
 
     void firstFrameShown() override;
+    // Logged under "dashtrack.bench.frames" only: a line a frame is a lot.
+    void frameShown() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -332,18 +332,18 @@ void MainWindowDelegate::UpdateDuration(GPSPlayerEngine& engine, double progress
 void MainWindowDelegate::UpdatedPlayingStatus(GPSPlayerEngine& /*engine*/, bool /*playing*/) { UpdatePlayingStatus(); }
 
 void MainWindowDelegate::Completed(GPSPlayerEngine& /*engine*/) {
+    // Under continuous play the trip goes on at once; between trips the next clip waits.
+    if (const auto next = continuationOf(curIndex)) {
+        continuing_ = true;
+        playWithIndex(*next, true);
+        return;
+    }
     if (quitAtEnd_) {
         // The end is reported on every tick there; quit once.
         if (!quitting_) {
             quitting_ = true;
             QCoreApplication::quit();
         }
-        return;
-    }
-    // Under continuous play the trip goes on at once; between trips the next clip waits.
-    if (const auto next = continuationOf(curIndex)) {
-        continuing_ = true;
-        playWithIndex(*next, true);
         return;
     }
     OnNext(nullptr);

@@ -83,6 +83,9 @@ void GPSPlayerEngine::setMovie(const std::filesystem::path& url) {
     }
     mediaPlayer_->setVolume(static_cast<float>(volume_.lastVolume()));
     mediaPlayer_->setMuted(volume_.isMuted());
+    // The end is looked at as soon as the player gets there, not at the next poll: the next clip
+    // of a trip follows without a pause. Queued, since the player is still busy telling.
+    mediaPlayer_->setEndListener([this] { QMetaObject::invokeMethod(this, [this] { tick(); }, Qt::QueuedConnection); });
     duration_ = mediaPlayer_->duration().seconds();
     cursor_.restart();
     pausedMoveFrom_.reset();

@@ -5,6 +5,7 @@
 #include "MediaTime.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 
 // The player's time-control status.
@@ -36,6 +37,9 @@ public:
     virtual void seek(MediaTime time) = 0;
     // One frame forward or back, then paused; players that cannot step do nothing.
     virtual void stepFrame(bool forward) { (void)forward; }
+    // Called when the movie comes to rest at its end, so that the next clip need not wait for a
+    // poll; players that cannot tell never call it.
+    virtual void setEndListener(std::function<void()> listener) { (void)listener; }
 };
 
 class MediaPlayerFactory {

@@ -11,3 +11,7 @@ void setFirstFrameListener(FirstFrameListener* newListener) { listener = newList
 void notifyFirstFrameShown() {
     if (listener) listener->firstFrameShown();
 }
+
+void notifyFrameShown() {
+    if (listener) listener->frameShown();
+}

@@ -157,7 +157,9 @@ void MpvMediaPlayer::handleEvent(const mpv_event& event, uint64_t code) {
 void MpvMediaPlayer::applyProperty(std::size_t slot, const mpv_event_property& property) {
     // Until the core has our write, what it reports is the value we have just replaced.
     if (pendingWrites_[slot] > 0) return;
+    const bool wasAtEnd = state_.restingAtEnd();
     kObserved[slot].apply(state_, property);
+    if (!wasAtEnd && state_.restingAtEnd() && endListener_) endListener_();
 }
 
 void MpvMediaPlayer::setProperty(const char* name, mpv_format format, void* value, uint64_t code) {
@@ -271,6 +273,8 @@ void MpvMediaPlayer::frameShown() {
         qCInfo(lcMpvStats).noquote() << "first-frame-ms=" + QString::number(*firstFrameMs_);
         notifyFirstFrameShown();
     }
+    // After the first-frame news, so that a listener pairs it with the movie before's last frame.
+    notifyFrameShown();
 }
 
 void MpvMediaPlayer::logStats() const {

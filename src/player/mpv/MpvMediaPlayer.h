@@ -16,6 +16,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -44,6 +45,7 @@ public:
     MediaTime duration() const override { return info_.duration; }
     void seek(MediaTime time) override;
     void stepFrame(bool forward) override;
+    void setEndListener(std::function<void()> listener) override { endListener_ = std::move(listener); }
 
     MpvCore renderCore() const override { return session_->core(); }
     bool fileStarted() const override { return fileStarted_ && holdsCore(); }
@@ -84,5 +86,6 @@ private:
     std::array<int, kObservedCount> pendingWrites_{};
     QElapsedTimer sinceRequested_;
     std::optional<qint64> firstFrameMs_;
+    std::function<void()> endListener_;
     qint64 framesShown_ = 0;
 };
