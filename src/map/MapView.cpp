@@ -210,6 +210,17 @@ void MapView::addOverlay(std::shared_ptr<const Polyline> line) {
     update();
 }
 
+void MapView::setUnderlay(std::vector<std::shared_ptr<const Polyline>> lines, PolylineStyle style) {
+    const double opacity = style.color.isValid() ? style.color.alphaF() : 1.0;
+    style.color.setAlphaF(1);  // the fade of the whole underlay stands for it
+    underlay_.lines.clear();
+    for (std::shared_ptr<const Polyline>& line : lines)
+        if (line) underlay_.lines.push_back(makeStyledOverlay(std::move(line), style));
+    underlay_.opacity = opacity;
+    ++overlaysVersion_;
+    update();
+}
+
 void MapView::removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines) {
     if (lines.empty() || overlays_.empty()) return;
     const auto listed = [&](const StyledOverlay& overlay) {
@@ -331,7 +342,7 @@ void MapView::paintEvent(QPaintEvent*) {
     const MapPainter frame = framePainter();
     frame.paintGrid(painter);
     if (provider_) frame.paintTiles(painter, *provider_, recentTiles_);
-    overlayLayer_.paint(painter, frame, overlays_, overlaysVersion_);
+    overlayLayer_.paint(painter, frame, underlay_, overlays_, overlaysVersion_);
     frame.paintScaleBar(painter);
     if (provider_) frame.paintAttribution(painter, provider_->attribution());
 }

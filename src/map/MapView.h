@@ -44,6 +44,11 @@ public:
     // Lines that are not on the map are ignored.
     void removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines);
     std::size_t overlayCount() const { return overlays_.size(); }
+    // Lines drawn beneath every overlay, whichever was set first: the whole route, say, under the
+    // part driven so far. Replaces the previous underlay; an empty list clears it. The lines are
+    // drawn opaque and then faded together by the alpha of style.color (casing included), so the
+    // line is equally faint where it crosses itself.
+    void setUnderlay(std::vector<std::shared_ptr<const Polyline>> lines, PolylineStyle style);
 
     void addAnnotation(std::shared_ptr<MapAnnotation> annotation);
     void removeAnnotation(const std::shared_ptr<MapAnnotation>& annotation);
@@ -114,7 +119,8 @@ private:
     double animationEndZoom_ = 0;
 
     std::vector<StyledOverlay> overlays_;
-    std::uint64_t overlaysVersion_ = 0;
+    FadedOverlays underlay_;
+    std::uint64_t overlaysVersion_ = 0;  // of overlays_ and underlay_
     OverlayLayer overlayLayer_;
     std::vector<ShownAnnotation> annotations_;
     RecentTiles recentTiles_;

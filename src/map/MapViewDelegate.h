@@ -15,6 +15,10 @@ class QWidget;
 struct PolylineStyle {
     QColor color;
     double lineWidth = 2;
+    // A darker edge that keeps a light line readable on light tiles: a stroke casingWidth wider
+    // on each side, drawn under every line of its layer. None when the width is 0.
+    QColor casingColor = {};
+    double casingWidth = 0;
 };
 
 class MapViewDelegate {

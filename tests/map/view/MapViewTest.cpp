@@ -338,3 +338,46 @@ TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
     EXPECT_FALSE(isRed(image.pixelColor(at + QPoint(6, 0))));
     EXPECT_FALSE(isRed(image.pixelColor(at - QPoint(6, 0))));
 }
+
+TEST_F(MapViewTest, TheUnderlayLiesBeneathEveryOverlayAndIsReplacedOrCleared) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const auto through = [&](QPointF a, QPointF b) {
+        return line({painter().toCoordinate(a), painter().toCoordinate(b)});
+    };
+    view.addOverlay(through({0, 150}, {400, 150}));  // red, before the underlay
+    view.setUnderlay({through({200, 0}, {200, 300})}, PolylineStyle{QColor(0, 0, 255), 10});
+    const auto isBlue = [](QColor c) { return c.blue() > 200 && c.red() < 60; };
+    QImage image = paint(view);
+    EXPECT_TRUE(isRed(image.pixelColor(200, 150)));
+    EXPECT_TRUE(isBlue(image.pixelColor(200, 50)));
+
+    view.setUnderlay({through({100, 0}, {100, 300})}, PolylineStyle{QColor(0, 0, 255), 10});
+    image = paint(view);
+    EXPECT_FALSE(isBlue(image.pixelColor(200, 50)));
+    EXPECT_TRUE(isBlue(image.pixelColor(100, 50)));
+    EXPECT_TRUE(isRed(image.pixelColor(100, 150)));
+
+    view.setUnderlay({}, PolylineStyle{QColor(0, 0, 255), 10});
+    EXPECT_FALSE(isBlue(paint(view).pixelColor(100, 50)));
+}
+
+TEST_F(MapViewTest, AFadedUnderlayIsEquallyFaintWhereItCrossesItselfAndShowsItsCasing) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const QImage bare = paint(view);
+    // A bow crossing itself at the centre.
+    std::vector<Coordinate> bow;
+    for (QPointF p : {QPointF(100, 50), QPointF(300, 250), QPointF(300, 50), QPointF(100, 250)})
+        bow.push_back(painter().toCoordinate(p));
+    view.setUnderlay({line(bow)}, PolylineStyle{QColor(0, 0, 255, 128), 8, QColor(0, 0, 0), 2});
+    const QImage image = paint(view);
+    const QColor crossing = image.pixelColor(200, 150);
+    const QColor single = image.pixelColor(300, 150);
+    EXPECT_NEAR(crossing.blue(), single.blue(), 3);
+    EXPECT_NEAR(crossing.red(), single.red(), 3);
+    // Half blue over the background: neither the background nor solid blue.
+    EXPECT_GT(single.blue(), bare.pixelColor(300, 150).blue());
+    EXPECT_LT(single.red(), 180);
+    EXPECT_GT(single.red(), 60);
+    // The casing, 2 pixels beyond the line's 4 on each side, darker than the background.
+    EXPECT_LT(image.pixelColor(305, 120).lightness(), bare.pixelColor(305, 120).lightness() - 40);
+}
