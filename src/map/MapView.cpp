@@ -21,6 +21,8 @@ namespace {
 constexpr int kAnimationMilliseconds = 250;
 constexpr int kFallbackTileSize = 256;
 constexpr double kWheelStepsPerNotch = 0.5;
+// A press that moves no further than this is still a click: hands shake.
+constexpr double kClickSlop = 4;
 
 QWidget* makeDefaultMarker() {
     auto* dot = new QLabel;
@@ -139,6 +141,10 @@ CoordinateRegion MapView::region() const {
     const Coordinate northWest = frame.toCoordinate(QPointF(0, 0));
     const Coordinate southEast = frame.toCoordinate(QPointF(width(), height()));
     return {center_, {northWest.latitude - southEast.latitude, southEast.longitude - northWest.longitude}};
+}
+
+QPointF MapView::pointForCoordinate(Coordinate coordinate) const {
+    return framePainter().toWidget(coordinate);
 }
 
 void MapView::setCenterCoordinate(Coordinate center) {
@@ -373,20 +379,25 @@ void MapView::mousePressEvent(QMouseEvent* event) {
     pendingRegion_.reset();
     dragOrigin_ = event->position();
     dragStartCenter_ = center_;
+    dragged_ = false;
     setCursor(Qt::ClosedHandCursor);
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     if (!dragOrigin_) return QWidget::mouseMoveEvent(event);
     const QPointF moved = event->position() - *dragOrigin_;
+    if (std::hypot(moved.x(), moved.y()) > kClickSlop) dragged_ = true;
     const MapMath::WorldPoint start = MapMath::project(dragStartCenter_, zoom_, tileSize());
     moveCamera(MapMath::unproject({start.x - moved.x(), start.y - moved.y()}, zoom_, tileSize()), zoom_);
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !dragOrigin_) return QWidget::mouseReleaseEvent(event);
+    const QPointF moved = event->position() - *dragOrigin_;
+    const bool click = !dragged_ && std::hypot(moved.x(), moved.y()) <= kClickSlop;
     dragOrigin_.reset();
     unsetCursor();
+    if (click) emit clicked(event->position());
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {

@@ -9,6 +9,7 @@
 #include "OverlayLayer.h"
 #include "RecentTiles.h"
 
+#include <QPointF>
 #include <QPointer>
 #include <QWidget>
 
@@ -35,6 +36,8 @@ public:
     // region is kept, reported by region(), and fitted again when the widget is resized or shown.
     void setRegion(const CoordinateRegion& region, bool animated);
     CoordinateRegion region() const;
+    // Where the coordinate is in the widget at the current camera; may lie outside the widget.
+    QPointF pointForCoordinate(Coordinate coordinate) const;
     // Moves without animation and keeps the zoom.
     void setCenterCoordinate(Coordinate center);
     Coordinate centerCoordinate() const;
@@ -76,6 +79,9 @@ public:
 signals:
     // The user asked to put the car back in the centre.
     void recenterRequested();
+    // A press and release of the left button on the map itself (not on a button or a marker)
+    // with no drag in between: where it was released, in widget coordinates.
+    void clicked(QPointF widgetPoint);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -133,4 +139,5 @@ private:
 
     std::optional<QPointF> dragOrigin_;
     Coordinate dragStartCenter_;
+    bool dragged_ = false;  // the press has moved too far to be a click
 };

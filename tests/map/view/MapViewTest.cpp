@@ -381,3 +381,35 @@ TEST_F(MapViewTest, AFadedUnderlayIsEquallyFaintWhereItCrossesItselfAndShowsItsC
     // The casing, 2 pixels beyond the line's 4 on each side, darker than the background.
     EXPECT_LT(image.pixelColor(305, 120).lightness(), bare.pixelColor(305, 120).lightness() - 40);
 }
+
+TEST_F(MapViewTest, APressAndReleaseWithoutADragIsAClick) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const struct {
+        const char* name;
+        std::vector<QPointF> moves;
+        bool click;
+    } cases[] = {
+        {"still", {}, true},
+        {"a shaky hand", {{102, 101}, {101, 103}}, true},
+        {"a drag", {{130, 100}}, false},
+        {"a drag back to where it began", {{130, 100}, {100, 100}}, false},
+    };
+    for (const auto& c : cases) {
+        std::vector<QPointF> clicks;
+        const auto connection = QObject::connect(&view, &MapView::clicked, [&](QPointF p) { clicks.push_back(p); });
+        const auto send = [&](QEvent::Type type, QPointF at) {
+            QMouseEvent event(type, at, view.mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&view, &event);
+        };
+        send(QEvent::MouseButtonPress, {100, 100});
+        for (QPointF p : c.moves) send(QEvent::MouseMove, p);
+        const QPointF end = c.moves.empty() ? QPointF(100, 100) : c.moves.back();
+        send(QEvent::MouseButtonRelease, end);
+        QObject::disconnect(connection);
+        ASSERT_EQ(clicks.size(), c.click ? 1u : 0u) << c.name;
+        if (c.click) {
+            EXPECT_EQ(clicks.front(), end) << c.name;
+        }
+    }
+}
