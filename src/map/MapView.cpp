@@ -259,7 +259,9 @@ void MapView::annotationChanged(const std::shared_ptr<MapAnnotation>& annotation
     const auto it = std::find_if(annotations_.begin(), annotations_.end(),
                                  [&](const ShownAnnotation& shown) { return shown.annotation == annotation; });
     if (it == annotations_.end()) return;
-    if (calloutMarker_ == it->view && callout_->isVisible()) callout_->setText(annotation->title);
+    // isHidden, not isVisible: a callout open in a hidden window still shows the new title later.
+    if (calloutMarker_ == it->view && !callout_->isHidden()) callout_->setText(annotation->title);
+    if (delegate_ && it->view) delegate_->refreshViewForAnnotation(*this, *annotation, *it->view);
     placeAnnotations();
 }
 

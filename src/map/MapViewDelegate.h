@@ -31,6 +31,13 @@ public:
         (void)annotation;
         return nullptr;
     }
+    // The annotation's view is on the map and the annotation has changed (see
+    // MapView::annotationChanged): the view shows what is new, e.g. the heading.
+    virtual void refreshViewForAnnotation(MapView& map, const MapAnnotation& annotation, QWidget& view) {
+        (void)map;
+        (void)annotation;
+        (void)view;
+    }
     // Asked once each time the line is added.
     virtual std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) {
         (void)map;

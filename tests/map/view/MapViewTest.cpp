@@ -37,7 +37,9 @@ class RedLines : public MapViewDelegate {
 public:
     int overlaysAsked = 0;
     QWidget* nextView = nullptr;
+    QWidget* refreshedView = nullptr;
     QWidget* viewForAnnotation(MapView&, const MapAnnotation&) override { return std::exchange(nextView, nullptr); }
+    void refreshViewForAnnotation(MapView&, const MapAnnotation&, QWidget& view) override { refreshedView = &view; }
     std::optional<PolylineStyle> rendererForOverlay(MapView&, const Polyline&) override {
         ++overlaysAsked;
         return PolylineStyle{QColor(255, 0, 0), 4};
@@ -226,6 +228,12 @@ TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
     }
     EXPECT_FALSE(view.callout()->isHidden());
     EXPECT_EQ(view.callout()->text(), QStringLiteral("Car"));
+    // A change reaches the open callout and, through the delegate, the marker's own view.
+    car->title = QStringLiteral("Car, turning");
+    car->heading = 90;
+    view.annotationChanged(car);
+    EXPECT_EQ(view.callout()->text(), QStringLiteral("Car, turning"));
+    EXPECT_EQ(delegate.refreshedView, own);
 
     // Without a view from the delegate the marker is a dot of the map's own.
     auto other = std::make_shared<MapAnnotation>(MapAnnotation{{0, 0}, QString()});
