@@ -1,8 +1,10 @@
 // One frame of the map, 400x300, into an image: a window of tiles all in memory and a route of
-// 2,400 points (two hours of driving, one point in three seconds) across it.
+// 2,400 points (two hours of driving, one point in three seconds) across it, on its own or over
+// the whole trip's route of 3,600 points beneath it.
 #include "MapGeometry.h"
 #include "MapView.h"
 #include "MapViewDelegate.h"
+#include "RouteStyles.h"
 #include "TileProvider.h"
 
 #include <QApplication>
@@ -47,16 +49,16 @@ private:
 class RouteStyle : public MapViewDelegate {
 public:
     std::optional<PolylineStyle> rendererForOverlay(MapView&, const Polyline&) override {
-        return PolylineStyle{QColor(255, 0, 0), 4};
+        return kRouteDrivenStyle;
     }
 };
 
 // Two hours of driving, a point every three seconds at 15 m/s (45 m apart), the heading turning
-// slowly: about 100 km of road.
-std::shared_ptr<const Polyline> drive() {
+// slowly: about 100 km of road. Longer, the same road goes on.
+std::shared_ptr<const Polyline> drive(int points = 2400) {
     auto line = std::make_shared<Polyline>();
     Coordinate at = kCenter;
-    for (int i = 0; i < 2400; ++i) {
+    for (int i = 0; i < points; ++i) {
         line->points.push_back(at);
         const double heading = 2.0 * std::sin(i / 150.0) + 0.7 * std::sin(i / 23.0);
         at.latitude += 45.0 * std::cos(heading) / 111'200;
@@ -87,7 +89,7 @@ CoordinateRegion bounds(const Polyline& line) {
     return {{(south + north) / 2, (west + east) / 2}, {north - south, east - west}};
 }
 
-enum class Framing { FollowCar, WholeRoute, Tangle, TangleWholeZoom, TilesOnly };
+enum class Framing { FollowCar, FollowTrip, WholeRoute, Tangle, TangleWholeZoom, TilesOnly };
 enum class Motion { Still, Zooming, Driving };
 
 void paintFrames(benchmark::State& state, Framing framing, Motion motion) {
@@ -99,7 +101,9 @@ void paintFrames(benchmark::State& state, Framing framing, Motion motion) {
     view.setTileProvider(&provider);
     const bool tangled = framing == Framing::Tangle || framing == Framing::TangleWholeZoom;
     const std::shared_ptr<const Polyline> route = tangled ? tangle() : drive();
-    if (framing == Framing::FollowCar)
+    if (framing == Framing::FollowTrip)
+        view.setUnderlay({drive(3600)}, kRouteAheadStyle);
+    if (framing == Framing::FollowCar || framing == Framing::FollowTrip)
         view.setRegion(regionMakeWithDistance(route->points.back(), 1000, 1000), false);  // as during playback
     else if (framing == Framing::WholeRoute)
         view.setRegion(bounds(*route), false);
@@ -129,6 +133,10 @@ void paintFrames(benchmark::State& state, Framing framing, Motion motion) {
 BENCHMARK_CAPTURE(paintFrames, follow_car, Framing::FollowCar, Motion::Still)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(paintFrames, follow_car_driving, Framing::FollowCar, Motion::Driving)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(paintFrames, follow_car_zooming, Framing::FollowCar, Motion::Zooming)->Unit(benchmark::kMillisecond);
+// The same with the whole trip's route faint beneath the part driven.
+BENCHMARK_CAPTURE(paintFrames, follow_trip, Framing::FollowTrip, Motion::Still)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, follow_trip_driving, Framing::FollowTrip, Motion::Driving)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(paintFrames, follow_trip_zooming, Framing::FollowTrip, Motion::Zooming)->Unit(benchmark::kMillisecond);
 // The whole drive fitted into the view.
 BENCHMARK_CAPTURE(paintFrames, whole_route, Framing::WholeRoute, Motion::Still)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(paintFrames, whole_route_zooming, Framing::WholeRoute, Motion::Zooming)->Unit(benchmark::kMillisecond);

@@ -3,10 +3,12 @@
 
 #include "MainWindowDelegate.h"
 
+#include "CarMarkerView.h"
 #include "GPSUtils.h"
 #include "MapView.h"
 #include "MapViewDelegate.h"
 #include "RouteMap.h"
+#include "RouteStyles.h"
 #include "TileProviderFactory.h"
 
 #include <QAction>
@@ -15,16 +17,11 @@
 #include <QFileDialog>
 #include <QLoggingCategory>
 #include <QMainWindow>
-#include <QSvgWidget>
 
 // On by default: the line at each route intake is one of the program's two outputs.
 Q_LOGGING_CATEGORY(lcRoute, "dashtrack.route", QtInfoMsg)
 
 namespace {
-
-constexpr QSize kCarSize(24, 40);
-const QColor kRouteColour = QColor::fromRgbF(1, 0, 0, 1);
-constexpr double kRouteWidth = 4.0;
 
 // The route's changes, applied to the window's map view.
 class MapViewRoute final : public RouteMap {
@@ -64,15 +61,18 @@ void MainWindowDelegate::showCarLocation(const GPSData& data, int64_t index) {
     routeTracker_.showCarLocation(data, index, route);
 }
 
-QWidget* MainWindowDelegate::viewForAnnotation(MapView& /*map*/, const MapAnnotation& /*annotation*/) {
-    auto* car = new QSvgWidget(QStringLiteral(":/car.svg"));
-    car->setFixedSize(kCarSize);
-    car->setAccessibleName(QStringLiteral("Car"));
+QWidget* MainWindowDelegate::viewForAnnotation(MapView& /*map*/, const MapAnnotation& annotation) {
+    auto* car = new CarMarkerView;
+    car->setHeading(annotation.heading);
     return car;
 }
 
+void MainWindowDelegate::refreshViewForAnnotation(MapView& /*map*/, const MapAnnotation& annotation, QWidget& view) {
+    if (auto* car = qobject_cast<CarMarkerView*>(&view)) car->setHeading(annotation.heading);
+}
+
 std::optional<PolylineStyle> MainWindowDelegate::rendererForOverlay(MapView& /*map*/, const Polyline& /*line*/) {
-    return PolylineStyle{kRouteColour, kRouteWidth};
+    return kRouteDrivenStyle;
 }
 
 void MainWindowDelegate::setupMap() {

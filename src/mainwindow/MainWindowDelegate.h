@@ -133,6 +133,7 @@ public:
     // The route driven so far and the car, for every sample the player reports.
     void showCarLocation(const GPSData& data, int64_t index);
     QWidget* viewForAnnotation(MapView& map, const MapAnnotation& annotation) override;
+    void refreshViewForAnnotation(MapView& map, const MapAnnotation& annotation, QWidget& view) override;
     std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) override;
     // source: "osm", "mbtiles:PATH", "folder:PATH" or "offline"; stored for the next run.
     void OnMapSourceChanged(const std::string& source);

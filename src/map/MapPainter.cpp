@@ -138,55 +138,66 @@ void drawPieces(QPainter& painter, const QPolygonF& points) {
 }  // namespace
 
 void MapPainter::paintOverlays(QPainter& painter, const std::vector<StyledOverlay>& overlays) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    // Every casing first: where lines cross or a line crosses itself, no edge cuts across a line.
+    for (const StyledOverlay& overlay : overlays) {
+        const PolylineStyle& style = overlay.style;
+        if (style.casingWidth > 0 && style.casingColor.isValid())
+            strokeLine(painter, overlay.unitPoints, QPen(style.casingColor, style.lineWidth + 2 * style.casingWidth,
+                                                         Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+    for (const StyledOverlay& overlay : overlays)
+        strokeLine(painter, overlay.unitPoints,
+                   QPen(overlay.style.color, overlay.style.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.restore();
+}
+
+void MapPainter::strokeLine(QPainter& painter, const std::vector<MapMath::WorldPoint>& unitPoints,
+                            const QPen& pen) const {
+    if (unitPoints.empty()) return;
     const double world = MapMath::worldSize(zoom_, tileSize_);
     const double dx = size_.width() / 2 - centerWorld_.x;
     const double dy = size_.height() / 2 - centerWorld_.y;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing, true);
-    QPolygonF run;
-    for (const StyledOverlay& overlay : overlays) {
-        if (overlay.unitPoints.empty()) continue;
-        painter.setPen(QPen(overlay.style.color, overlay.style.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const double margin = overlay.style.lineWidth + 2;
-        const QRectF visible = QRectF(QPointF(0, 0), size_).adjusted(-margin, -margin, margin, margin);
-        const auto at = [&](const MapMath::WorldPoint& u) { return QPointF(u.x * world + dx, u.y * world + dy); };
+    painter.setPen(pen);
+    const double margin = pen.widthF() + 2;
+    const QRectF visible = QRectF(QPointF(0, 0), size_).adjusted(-margin, -margin, margin, margin);
+    const auto at = [&](const MapMath::WorldPoint& u) { return QPointF(u.x * world + dx, u.y * world + dy); };
 
-        // Runs of segments that touch the frame; the rest of the line is not stroked at all.
-        run.clear();
-        QPointF previous = at(overlay.unitPoints.front());
-        QPointF lastDrawn = previous;
-        if (overlay.unitPoints.size() == 1 && visible.contains(previous)) run.append(previous);
-        for (std::size_t i = 1; i < overlay.unitPoints.size(); ++i) {
-            const QPointF p = at(overlay.unitPoints[i]);
-            // By bounding boxes, which are never empty here (a level segment has no height).
-            const bool onScreen = std::max(previous.x(), p.x()) >= visible.left() &&
-                                  std::min(previous.x(), p.x()) <= visible.right() &&
-                                  std::max(previous.y(), p.y()) >= visible.top() &&
-                                  std::min(previous.y(), p.y()) <= visible.bottom();
-            if (!onScreen) {
-                if (!run.isEmpty()) {
-                    if (run.back() != previous) run.append(previous);
-                    drawPieces(painter, run);
-                    run.clear();
-                }
-                previous = p;
-                continue;
-            }
-            if (run.isEmpty()) {
-                run.append(previous);
-                lastDrawn = previous;
-            }
-            // Points within half a pixel of the last one drawn add work and nothing visible.
-            const bool last = i + 1 == overlay.unitPoints.size();
-            if (last || std::abs(p.x() - lastDrawn.x()) >= 0.5 || std::abs(p.y() - lastDrawn.y()) >= 0.5) {
-                run.append(p);
-                lastDrawn = p;
+    // Runs of segments that touch the frame; the rest of the line is not stroked at all.
+    QPolygonF run;
+    QPointF previous = at(unitPoints.front());
+    QPointF lastDrawn = previous;
+    if (unitPoints.size() == 1 && visible.contains(previous)) run.append(previous);
+    for (std::size_t i = 1; i < unitPoints.size(); ++i) {
+        const QPointF p = at(unitPoints[i]);
+        // By bounding boxes, which are never empty here (a level segment has no height).
+        const bool onScreen = std::max(previous.x(), p.x()) >= visible.left() &&
+                              std::min(previous.x(), p.x()) <= visible.right() &&
+                              std::max(previous.y(), p.y()) >= visible.top() &&
+                              std::min(previous.y(), p.y()) <= visible.bottom();
+        if (!onScreen) {
+            if (!run.isEmpty()) {
+                if (run.back() != previous) run.append(previous);
+                drawPieces(painter, run);
+                run.clear();
             }
             previous = p;
+            continue;
         }
-        if (!run.isEmpty()) drawPieces(painter, run);
+        if (run.isEmpty()) {
+            run.append(previous);
+            lastDrawn = previous;
+        }
+        // Points within half a pixel of the last one drawn add work and nothing visible.
+        const bool last = i + 1 == unitPoints.size();
+        if (last || std::abs(p.x() - lastDrawn.x()) >= 0.5 || std::abs(p.y() - lastDrawn.y()) >= 0.5) {
+            run.append(p);
+            lastDrawn = p;
+        }
+        previous = p;
     }
-    painter.restore();
+    if (!run.isEmpty()) drawPieces(painter, run);
 }
 
 void MapPainter::paintScaleBar(QPainter& painter) const {

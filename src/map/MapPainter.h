@@ -14,6 +14,7 @@
 #include <vector>
 
 class QPainter;
+class QPen;
 class RecentTiles;
 class TileProvider;
 
@@ -24,6 +25,13 @@ struct StyledOverlay {
     std::vector<MapMath::WorldPoint> unitPoints;
 };
 StyledOverlay makeStyledOverlay(std::shared_ptr<const Polyline> line, PolylineStyle style);
+
+// Lines drawn opaque and then faded as one by opacity: where they cross or their pieces meet they
+// are no denser than anywhere else, as lines stroked each in a translucent colour would be.
+struct FadedOverlays {
+    std::vector<StyledOverlay> lines;
+    double opacity = 1;
+};
 
 class MapPainter {
 public:
@@ -37,6 +45,7 @@ public:
     // The tiles under the frame; one not in memory is stood in for by the nearest lower-zoom
     // tile seen before, scaled up. Tiles of a zoom that matches the device's pixels are used.
     void paintTiles(QPainter& painter, TileProvider& provider, RecentTiles& recent) const;
+    // The lines in order, each over the casings of all of them.
     void paintOverlays(QPainter& painter, const std::vector<StyledOverlay>& overlays) const;
     void paintScaleBar(QPainter& painter) const;
     void paintAttribution(QPainter& painter, const QString& attribution) const;
@@ -54,6 +63,8 @@ public:
     int tileZoom(double devicePixelRatio, int minimumZoom, int maximumZoom) const;
 
 private:
+    void strokeLine(QPainter& painter, const std::vector<MapMath::WorldPoint>& unitPoints, const QPen& pen) const;
+
     Coordinate center_;
     double zoom_;
     QSizeF size_;

@@ -21,6 +21,8 @@ namespace {
 constexpr int kAnimationMilliseconds = 250;
 constexpr int kFallbackTileSize = 256;
 constexpr double kWheelStepsPerNotch = 0.5;
+// A press that moves no further than this is still a click: hands shake.
+constexpr double kClickSlop = 4;
 
 QWidget* makeDefaultMarker() {
     auto* dot = new QLabel;
@@ -141,6 +143,10 @@ CoordinateRegion MapView::region() const {
     return {center_, {northWest.latitude - southEast.latitude, southEast.longitude - northWest.longitude}};
 }
 
+QPointF MapView::pointForCoordinate(Coordinate coordinate) const {
+    return framePainter().toWidget(coordinate);
+}
+
 void MapView::setCenterCoordinate(Coordinate center) {
     if (!isUsable(center)) return;
     center.latitude = MapMath::clampLatitude(center.latitude);
@@ -210,6 +216,17 @@ void MapView::addOverlay(std::shared_ptr<const Polyline> line) {
     update();
 }
 
+void MapView::setUnderlay(std::vector<std::shared_ptr<const Polyline>> lines, PolylineStyle style) {
+    const double opacity = style.color.isValid() ? style.color.alphaF() : 1.0;
+    style.color.setAlphaF(1);  // the fade of the whole underlay stands for it
+    underlay_.lines.clear();
+    for (std::shared_ptr<const Polyline>& line : lines)
+        if (line) underlay_.lines.push_back(makeStyledOverlay(std::move(line), style));
+    underlay_.opacity = opacity;
+    ++overlaysVersion_;
+    update();
+}
+
 void MapView::removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines) {
     if (lines.empty() || overlays_.empty()) return;
     const auto listed = [&](const StyledOverlay& overlay) {
@@ -242,7 +259,9 @@ void MapView::annotationChanged(const std::shared_ptr<MapAnnotation>& annotation
     const auto it = std::find_if(annotations_.begin(), annotations_.end(),
                                  [&](const ShownAnnotation& shown) { return shown.annotation == annotation; });
     if (it == annotations_.end()) return;
-    if (calloutMarker_ == it->view && callout_->isVisible()) callout_->setText(annotation->title);
+    // isHidden, not isVisible: a callout open in a hidden window still shows the new title later.
+    if (calloutMarker_ == it->view && !callout_->isHidden()) callout_->setText(annotation->title);
+    if (delegate_ && it->view) delegate_->refreshViewForAnnotation(*this, *annotation, *it->view);
     placeAnnotations();
 }
 
@@ -331,7 +350,7 @@ void MapView::paintEvent(QPaintEvent*) {
     const MapPainter frame = framePainter();
     frame.paintGrid(painter);
     if (provider_) frame.paintTiles(painter, *provider_, recentTiles_);
-    overlayLayer_.paint(painter, frame, overlays_, overlaysVersion_);
+    overlayLayer_.paint(painter, frame, underlay_, overlays_, overlaysVersion_);
     frame.paintScaleBar(painter);
     if (provider_) frame.paintAttribution(painter, provider_->attribution());
 }
@@ -362,20 +381,25 @@ void MapView::mousePressEvent(QMouseEvent* event) {
     pendingRegion_.reset();
     dragOrigin_ = event->position();
     dragStartCenter_ = center_;
+    dragged_ = false;
     setCursor(Qt::ClosedHandCursor);
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     if (!dragOrigin_) return QWidget::mouseMoveEvent(event);
     const QPointF moved = event->position() - *dragOrigin_;
+    if (std::hypot(moved.x(), moved.y()) > kClickSlop) dragged_ = true;
     const MapMath::WorldPoint start = MapMath::project(dragStartCenter_, zoom_, tileSize());
     moveCamera(MapMath::unproject({start.x - moved.x(), start.y - moved.y()}, zoom_, tileSize()), zoom_);
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !dragOrigin_) return QWidget::mouseReleaseEvent(event);
+    const QPointF moved = event->position() - *dragOrigin_;
+    const bool click = !dragged_ && std::hypot(moved.x(), moved.y()) <= kClickSlop;
     dragOrigin_.reset();
     unsetCursor();
+    if (click) emit clicked(event->position());
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {

@@ -9,6 +9,7 @@
 #include "OverlayLayer.h"
 #include "RecentTiles.h"
 
+#include <QPointF>
 #include <QPointer>
 #include <QWidget>
 
@@ -35,6 +36,8 @@ public:
     // region is kept, reported by region(), and fitted again when the widget is resized or shown.
     void setRegion(const CoordinateRegion& region, bool animated);
     CoordinateRegion region() const;
+    // Where the coordinate is in the widget at the current camera; may lie outside the widget.
+    QPointF pointForCoordinate(Coordinate coordinate) const;
     // Moves without animation and keeps the zoom.
     void setCenterCoordinate(Coordinate center);
     Coordinate centerCoordinate() const;
@@ -44,6 +47,11 @@ public:
     // Lines that are not on the map are ignored.
     void removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines);
     std::size_t overlayCount() const { return overlays_.size(); }
+    // Lines drawn beneath every overlay, whichever was set first: the whole route, say, under the
+    // part driven so far. Replaces the previous underlay; an empty list clears it. The lines are
+    // drawn opaque and then faded together by the alpha of style.color (casing included), so the
+    // line is equally faint where it crosses itself.
+    void setUnderlay(std::vector<std::shared_ptr<const Polyline>> lines, PolylineStyle style);
 
     void addAnnotation(std::shared_ptr<MapAnnotation> annotation);
     void removeAnnotation(const std::shared_ptr<MapAnnotation>& annotation);
@@ -71,6 +79,9 @@ public:
 signals:
     // The user asked to put the car back in the centre.
     void recenterRequested();
+    // A press and release of the left button on the map itself (not on a button or a marker)
+    // with no drag in between: where it was released, in widget coordinates.
+    void clicked(QPointF widgetPoint);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -114,7 +125,8 @@ private:
     double animationEndZoom_ = 0;
 
     std::vector<StyledOverlay> overlays_;
-    std::uint64_t overlaysVersion_ = 0;
+    FadedOverlays underlay_;
+    std::uint64_t overlaysVersion_ = 0;  // of overlays_ and underlay_
     OverlayLayer overlayLayer_;
     std::vector<ShownAnnotation> annotations_;
     RecentTiles recentTiles_;
@@ -127,4 +139,5 @@ private:
 
     std::optional<QPointF> dragOrigin_;
     Coordinate dragStartCenter_;
+    bool dragged_ = false;  // the press has moved too far to be a click
 };

@@ -1,6 +1,7 @@
 #pragma once
 // The map's lines drawn once into an image larger than the frame and reused while only the
 // centre moves: following the car or dragging then costs a copy, not a stroke of every line.
+// The underlay and the overlays share the one image, the underlay at the bottom.
 
 #include "MapPainter.h"
 
@@ -11,15 +12,15 @@
 
 class OverlayLayer {
 public:
-    // linesVersion changes whenever a line is added or removed.
-    void paint(QPainter& painter, const MapPainter& frame, const std::vector<StyledOverlay>& overlays,
-               std::uint64_t linesVersion);
+    // linesVersion changes whenever a line of either is added or removed.
+    void paint(QPainter& painter, const MapPainter& frame, const FadedOverlays& underlay,
+               const std::vector<StyledOverlay>& overlays, std::uint64_t linesVersion);
     bool wasRebuilt() const { return rebuilt_; }
 
 private:
     bool covers(const MapPainter& frame, double devicePixelRatio, std::uint64_t linesVersion) const;
-    void rebuild(const MapPainter& frame, double devicePixelRatio, const std::vector<StyledOverlay>& overlays,
-                 std::uint64_t linesVersion);
+    void rebuild(const MapPainter& frame, double devicePixelRatio, const FadedOverlays& underlay,
+                 const std::vector<StyledOverlay>& overlays, std::uint64_t linesVersion);
 
     QImage image_;
     double zoom_ = -1;

@@ -37,7 +37,9 @@ class RedLines : public MapViewDelegate {
 public:
     int overlaysAsked = 0;
     QWidget* nextView = nullptr;
+    QWidget* refreshedView = nullptr;
     QWidget* viewForAnnotation(MapView&, const MapAnnotation&) override { return std::exchange(nextView, nullptr); }
+    void refreshViewForAnnotation(MapView&, const MapAnnotation&, QWidget& view) override { refreshedView = &view; }
     std::optional<PolylineStyle> rendererForOverlay(MapView&, const Polyline&) override {
         ++overlaysAsked;
         return PolylineStyle{QColor(255, 0, 0), 4};
@@ -226,6 +228,12 @@ TEST_F(MapViewTest, MarkersSitOnTheirCoordinateAndShowTheirTitle) {
     }
     EXPECT_FALSE(view.callout()->isHidden());
     EXPECT_EQ(view.callout()->text(), QStringLiteral("Car"));
+    // A change reaches the open callout and, through the delegate, the marker's own view.
+    car->title = QStringLiteral("Car, turning");
+    car->heading = 90;
+    view.annotationChanged(car);
+    EXPECT_EQ(view.callout()->text(), QStringLiteral("Car, turning"));
+    EXPECT_EQ(delegate.refreshedView, own);
 
     // Without a view from the delegate the marker is a dot of the map's own.
     auto other = std::make_shared<MapAnnotation>(MapAnnotation{{0, 0}, QString()});
@@ -337,4 +345,79 @@ TEST_F(MapViewTest, LinesFollowTheMapWhenItMovesOrZooms) {
     EXPECT_TRUE(isRed(image.pixelColor(at)));
     EXPECT_FALSE(isRed(image.pixelColor(at + QPoint(6, 0))));
     EXPECT_FALSE(isRed(image.pixelColor(at - QPoint(6, 0))));
+}
+
+TEST_F(MapViewTest, TheUnderlayLiesBeneathEveryOverlayAndIsReplacedOrCleared) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const auto through = [&](QPointF a, QPointF b) {
+        return line({painter().toCoordinate(a), painter().toCoordinate(b)});
+    };
+    view.addOverlay(through({0, 150}, {400, 150}));  // red, before the underlay
+    view.setUnderlay({through({200, 0}, {200, 300})}, PolylineStyle{QColor(0, 0, 255), 10});
+    const auto isBlue = [](QColor c) { return c.blue() > 200 && c.red() < 60; };
+    QImage image = paint(view);
+    EXPECT_TRUE(isRed(image.pixelColor(200, 150)));
+    EXPECT_TRUE(isBlue(image.pixelColor(200, 50)));
+
+    view.setUnderlay({through({100, 0}, {100, 300})}, PolylineStyle{QColor(0, 0, 255), 10});
+    image = paint(view);
+    EXPECT_FALSE(isBlue(image.pixelColor(200, 50)));
+    EXPECT_TRUE(isBlue(image.pixelColor(100, 50)));
+    EXPECT_TRUE(isRed(image.pixelColor(100, 150)));
+
+    view.setUnderlay({}, PolylineStyle{QColor(0, 0, 255), 10});
+    EXPECT_FALSE(isBlue(paint(view).pixelColor(100, 50)));
+}
+
+TEST_F(MapViewTest, AFadedUnderlayIsEquallyFaintWhereItCrossesItselfAndShowsItsCasing) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const QImage bare = paint(view);
+    // A bow crossing itself at the centre.
+    std::vector<Coordinate> bow;
+    for (QPointF p : {QPointF(100, 50), QPointF(300, 250), QPointF(300, 50), QPointF(100, 250)})
+        bow.push_back(painter().toCoordinate(p));
+    view.setUnderlay({line(bow)}, PolylineStyle{QColor(0, 0, 255, 128), 8, QColor(0, 0, 0), 2});
+    const QImage image = paint(view);
+    const QColor crossing = image.pixelColor(200, 150);
+    const QColor single = image.pixelColor(300, 150);
+    EXPECT_NEAR(crossing.blue(), single.blue(), 3);
+    EXPECT_NEAR(crossing.red(), single.red(), 3);
+    // Half blue over the background: neither the background nor solid blue.
+    EXPECT_GT(single.blue(), bare.pixelColor(300, 150).blue());
+    EXPECT_LT(single.red(), 180);
+    EXPECT_GT(single.red(), 60);
+    // The casing, 2 pixels beyond the line's 4 on each side, darker than the background.
+    EXPECT_LT(image.pixelColor(305, 120).lightness(), bare.pixelColor(305, 120).lightness() - 40);
+}
+
+TEST_F(MapViewTest, APressAndReleaseWithoutADragIsAClick) {
+    view.setRegion(regionAtZoom({0, 0}, 12), false);
+    const struct {
+        const char* name;
+        std::vector<QPointF> moves;
+        bool click;
+    } cases[] = {
+        {"still", {}, true},
+        {"a shaky hand", {{102, 101}, {101, 103}}, true},
+        {"a drag", {{130, 100}}, false},
+        {"a drag back to where it began", {{130, 100}, {100, 100}}, false},
+    };
+    for (const auto& c : cases) {
+        std::vector<QPointF> clicks;
+        const auto connection = QObject::connect(&view, &MapView::clicked, [&](QPointF p) { clicks.push_back(p); });
+        const auto send = [&](QEvent::Type type, QPointF at) {
+            QMouseEvent event(type, at, view.mapToGlobal(at), Qt::LeftButton,
+                              type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&view, &event);
+        };
+        send(QEvent::MouseButtonPress, {100, 100});
+        for (QPointF p : c.moves) send(QEvent::MouseMove, p);
+        const QPointF end = c.moves.empty() ? QPointF(100, 100) : c.moves.back();
+        send(QEvent::MouseButtonRelease, end);
+        QObject::disconnect(connection);
+        ASSERT_EQ(clicks.size(), c.click ? 1u : 0u) << c.name;
+        if (c.click) {
+            EXPECT_EQ(clicks.front(), end) << c.name;
+        }
+    }
 }
