@@ -5,8 +5,10 @@
 
 #include "CarMarkerView.h"
 #include "GPSUtils.h"
+#include "Geodesy.h"
 #include "MapView.h"
 #include "MapViewDelegate.h"
+#include "PolylineHitTest.h"
 #include "RouteMap.h"
 #include "RouteStyles.h"
 #include "TileProviderFactory.h"
@@ -26,7 +28,8 @@ namespace {
 // The route's changes, applied to the window's map view.
 class MapViewRoute final : public RouteMap {
 public:
-    MapViewRoute(MapView& map, std::shared_ptr<MapAnnotation>& car) : map_(map), car_(car) {}
+    MapViewRoute(MapView& map, std::shared_ptr<MapAnnotation>& car, std::optional<double> heading)
+        : map_(map), car_(car), heading_(heading) {}
 
     void removeOverlays(const std::vector<std::shared_ptr<const Polyline>>& lines) override { map_.removeOverlays(lines); }
     void addOverlay(std::shared_ptr<const Polyline> line) override { map_.addOverlay(std::move(line)); }
@@ -37,6 +40,7 @@ public:
         if (!shown) car_ = std::make_shared<MapAnnotation>();
         car_->coordinate = coordinate;
         car_->title = QString::fromStdString(title);
+        car_->heading = heading_;
         if (shown)
             map_.annotationChanged(car_);
         else
@@ -51,14 +55,55 @@ public:
 private:
     MapView& map_;
     std::shared_ptr<MapAnnotation>& car_;
+    std::optional<double> heading_;
 };
 
 }  // namespace
 
 void MainWindowDelegate::showCarLocation(const GPSData& data, int64_t index) {
     if (outlets_.mapView == nullptr) return;
-    MapViewRoute route(*outlets_.mapView, car_);
+    // The car points where it went from the sample before; a new track, or a jump in it, starts
+    // the comparison afresh.
+    if (index == 0 || index != lastCarIndex_ + 1) headingTracker_.restart();
+    lastCarIndex_ = index;
+    if (const auto place = samplePlace(data)) headingTracker_.update(*place);
+    MapViewRoute route(*outlets_.mapView, car_, headingTracker_.heading());
     routeTracker_.showCarLocation(data, index, route);
+}
+
+void MainWindowDelegate::showRouteAhead(const std::vector<TimelineClip>& clips) {
+    routeAhead_.clear();
+    std::vector<std::shared_ptr<const Polyline>> lines;
+    Polyline line;
+    const auto endLine = [&] {
+        if (!line.points.empty()) lines.push_back(std::make_shared<const Polyline>(std::move(line)));
+        line = {};
+    };
+    for (std::size_t c = 0; c < clips.size(); ++c) {
+        // Record k is on screen from second k of its clip.
+        for (std::size_t k = 1; k < clips[c].track.size(); ++k) {
+            const auto place = samplePlace(clips[c].track[k]);
+            if (!place) {
+                endLine();
+                continue;
+            }
+            const Coordinate coordinate{place->latitude, place->longitude};
+            line.points.push_back(coordinate);
+            routeAhead_.push_back({coordinate, timelineClock_.tripSecondsAt(c, double(k))});
+        }
+    }
+    endLine();
+    if (outlets_.mapView != nullptr) outlets_.mapView->setUnderlay(std::move(lines), kRouteAheadStyle);
+}
+
+void MainWindowDelegate::OnMapClicked(QPointF widgetPoint) {
+    if (outlets_.mapView == nullptr || routeAhead_.empty()) return;
+    std::vector<QPointF> points;
+    points.reserve(routeAhead_.size());
+    for (const RouteAheadPoint& point : routeAhead_) points.push_back(outlets_.mapView->pointForCoordinate(point.place));
+    constexpr double kClickRadius = 8.0;
+    if (const auto nearest = nearestPointWithin(points, widgetPoint, kClickRadius))
+        seekTimeline(routeAhead_[*nearest].seconds);
 }
 
 QWidget* MainWindowDelegate::viewForAnnotation(MapView& /*map*/, const MapAnnotation& annotation) {
@@ -78,6 +123,7 @@ std::optional<PolylineStyle> MainWindowDelegate::rendererForOverlay(MapView& /*m
 void MainWindowDelegate::setupMap() {
     if (outlets_.mapView == nullptr) return;
     outlets_.mapView->setDelegate(this);
+    QObject::connect(outlets_.mapView, &MapView::clicked, this, [this](QPointF point) { OnMapClicked(point); });
     QObject::connect(outlets_.mapView, &MapView::recenterRequested, this, [this] {
         if (car_ != nullptr && outlets_.mapView != nullptr) outlets_.mapView->setCenterCoordinate(car_->coordinate);
     });

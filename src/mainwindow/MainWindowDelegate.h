@@ -5,6 +5,7 @@
 
 #include "GPSControlViewDelegate.h"
 #include "GPSPlayerViewDelegate.h"
+#include "HeadingTracker.h"
 #include "MainWindowOutlets.h"
 #include "MapViewDelegate.h"
 #include "Playlist.h"
@@ -16,6 +17,7 @@
 #include "TripIndex.h"
 
 #include <QObject>
+#include <QPointF>
 #include <QString>
 
 #include <cstdint>
@@ -135,6 +137,10 @@ public:
     QWidget* viewForAnnotation(MapView& map, const MapAnnotation& annotation) override;
     void refreshViewForAnnotation(MapView& map, const MapAnnotation& annotation, QWidget& view) override;
     std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) override;
+    // The whole route of the timeline's clips, faint under the driven part; a click on it seeks
+    // to the moment the car was there.
+    void showRouteAhead(const std::vector<TimelineClip>& clips);
+    void OnMapClicked(QPointF widgetPoint);
     // source: "osm", "mbtiles:PATH", "folder:PATH" or "offline"; stored for the next run.
     void OnMapSourceChanged(const std::string& source);
     // Asks for an MBTiles file or a folder of tiles, without blocking the window.
@@ -183,6 +189,13 @@ private:
     PlaylistTableModel* playlistModel_ = nullptr;  // a child of the controller
     RouteTracker routeTracker_;
     std::shared_ptr<MapAnnotation> car_;
+    HeadingTracker headingTracker_;
+    int64_t lastCarIndex_ = -1;
+    struct RouteAheadPoint {
+        Coordinate place;
+        double seconds;  // on the timeline
+    };
+    std::vector<RouteAheadPoint> routeAhead_;
     std::unique_ptr<TileProvider> tileProvider_;
     std::vector<std::filesystem::path> pendingMovies_;
     ClipCatalog* clipCatalog_ = nullptr;  // a child of the controller

@@ -152,8 +152,8 @@ double MainWindowDelegate::currentClipSeconds() const {
 }
 
 void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips) {
-    (void)clips;
     timelineSeries_ = std::move(series);
+    showRouteAhead(clips);
 }
 
 void MainWindowDelegate::showTimelineCursor(double seconds) { (void)seconds; }
