@@ -1,29 +1,23 @@
 #include "TimelineChartLayer.h"
 
-#include "ChartRuns.h"
+#include "ChartColumns.h"
 #include "TimelineColours.h"
 #include "TimelineLayout.h"
 #include "TimelineText.h"
 
 #include <QPainter>
-#include <QLinearGradient>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace {
 
 struct Look {
-    QColor areaTop;  // the area fades towards the baseline: fast stretches stand out
+    QColor areaTop;
     QColor areaBottom;
     QColor line;
     qreal lineWidth;
-};
-
-struct ChartPaths {
-    QPainterPath area;
-    QPainterPath line;
 };
 
 // Rounds a logical coordinate to the centre of the device pixel it falls in, for crisp hairlines.
@@ -31,38 +25,49 @@ double pixelCentre(double logical, double devicePixelRatio) {
     return (std::floor(logical * devicePixelRatio) + 0.5) / devicePixelRatio;
 }
 
-// The area under each run and the line along its top. Where a column holds several samples the
-// line runs through their lowest and highest speed, nearer end first, so that it stays unbroken.
-ChartPaths chartPaths(const TimelineSeries& series, QSize size, double devicePixelRatio) {
-    const TimelineScale device = TimelineLayout::chartScale(size.width(), size.height(), series.totalSeconds,
-                                                            series.maxSpeed, devicePixelRatio);
-    const TimelineScale logical =
-        TimelineLayout::chartScale(size.width(), size.height(), series.totalSeconds, series.maxSpeed);
-    const double baseline = logical.yAtSpeed(0);
-    ChartPaths paths;
-    for (const ChartRun& run : chartRuns(series, device)) {
-        const auto x = [&](const ChartVertex& v) { return v.x / devicePixelRatio; };
-        if (run.size() == 1) {  // a lone sample narrower than a pixel: a spike
-            paths.line.moveTo(x(run.front()), baseline);
-            paths.line.lineTo(x(run.front()), logical.yAtSpeed(run.front().high));
-            continue;
-        }
-        paths.area.moveTo(x(run.front()), baseline);
-        float previous = run.front().low;
-        paths.line.moveTo(x(run.front()), logical.yAtSpeed(previous));
-        for (const ChartVertex& vertex : run) {
-            paths.area.lineTo(x(vertex), logical.yAtSpeed(vertex.high));
-            const bool highFirst = std::abs(previous - vertex.high) < std::abs(previous - vertex.low);
-            const float first = highFirst ? vertex.high : vertex.low;
-            const float second = highFirst ? vertex.low : vertex.high;
-            paths.line.lineTo(x(vertex), logical.yAtSpeed(first));
-            if (second != first) paths.line.lineTo(x(vertex), logical.yAtSpeed(second));
-            previous = second;
-        }
-        paths.area.lineTo(x(run.back()), baseline);
-        paths.area.closeSubpath();
+// The share of row `row` that [top, bottom) covers.
+float rowCoverage(int row, float top, float bottom) {
+    return std::clamp(std::min(float(row + 1), bottom) - std::max(float(row), top), 0.0f, 1.0f);
+}
+
+// A colour ready to be laid over premultiplied pixels.
+struct Ink {
+    float red, green, blue, alpha;  // 0-255, not premultiplied; alpha 0-1
+    explicit Ink(const QColor& c) : red(c.red()), green(c.green()), blue(c.blue()), alpha(c.alphaF()) {}
+    Ink(const QColor& c, float opacity) : Ink(c) { alpha = opacity; }
+
+    void over(QRgb& pixel, float coverage) const {
+        const float a = alpha * coverage;
+        if (a <= 0) return;
+        const float keep = 1 - a;
+        const auto mix = [&](float source, int destination) { return int(source * a + destination * keep + 0.5f); };
+        pixel = qRgba(mix(red, qRed(pixel)), mix(green, qGreen(pixel)), mix(blue, qBlue(pixel)), mix(255, qAlpha(pixel)));
     }
-    return paths;
+};
+
+// The area under the speed, fading towards the baseline so that fast stretches stand out, and the
+// line along its top: column by column, in device pixels.
+void paintColumns(QImage& image, const std::vector<ChartColumn>& columns, float chartTop, float baseline,
+                  const Look& look) {
+    const int rows = image.height();
+    std::vector<Ink> shades;
+    shades.reserve(std::size_t(rows));
+    for (int y = 0; y < rows; ++y) {
+        const float depth = std::clamp((y + 0.5f - chartTop) / std::max(1.0f, baseline - chartTop), 0.0f, 1.0f);
+        shades.emplace_back(look.areaTop, float(look.areaTop.alphaF() * (1 - depth) + look.areaBottom.alphaF() * depth));
+    }
+    const Ink line(look.line);
+    for (int x = 0; x < int(columns.size()) && x < image.width(); ++x) {
+        const ChartColumn& column = columns[std::size_t(x)];
+        if (column.coverage <= 0) continue;
+        const int first = std::max(0, int(std::floor(std::min(column.areaTop, column.lineTop))));
+        const int last = std::min(rows - 1, int(std::ceil(std::max(baseline, column.lineBottom))));
+        for (int y = first; y <= last; ++y) {
+            QRgb& pixel = reinterpret_cast<QRgb*>(image.scanLine(y))[x];
+            shades[std::size_t(y)].over(pixel, rowCoverage(y, column.areaTop, baseline) * column.coverage);
+            line.over(pixel, rowCoverage(y, column.lineTop, column.lineBottom) * column.coverage);
+        }
+    }
 }
 
 // A round step that puts two or three grid lines under the top speed.
@@ -105,18 +110,6 @@ void paintBackground(QPainter& painter, const TimelineSeries& series, QSize size
         painter.setPen(TimelineColours::quietLabel());
         painter.drawText(QRectF(left, 0, right - left, baseline - 2), Qt::AlignCenter, QStringLiteral("No GPS"));
     }
-}
-
-void paintChart(QPainter& painter, const ChartPaths& paths, const Look& look, QSize size) {
-    QLinearGradient fade(0, TimelineLayout::kChartTop, 0, size.height() - TimelineLayout::kBottomInset);
-    fade.setColorAt(0, look.areaTop);
-    fade.setColorAt(1, look.areaBottom);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fade);
-    painter.drawPath(paths.area);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(look.line, look.lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPath(paths.line);
 }
 
 // A dot on the highest speed and its value above the chart, kept inside the widget.
@@ -170,12 +163,15 @@ void TimelineChartLayer::rebuild(const TimelineSeries& series, QSize size, doubl
         painter.setRenderHint(QPainter::Antialiasing);
         paintBackground(painter, series, size, devicePixelRatio);
     }
-    const ChartPaths paths = chartPaths(series, size, devicePixelRatio);
+    const TimelineScale scale = TimelineLayout::chartScale(size.width(), size.height(), series.totalSeconds,
+                                                           series.maxSpeed, devicePixelRatio);
+    const std::vector<ChartRun> runs = chartRuns(series, scale);
     const auto draw = [&](QImage& image, const Look& look) {
         image = background.copy();
+        paintColumns(image, chartColumns(runs, scale, pixels.width(), look.lineWidth * devicePixelRatio),
+                     float(scale.top), float(scale.yAtSpeed(0)), look);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        paintChart(painter, paths, look, size);
         paintHighest(painter, series, size, unitName);
     };
     draw(unplayed_, {TimelineColours::unplayedAreaTop(), TimelineColours::unplayedAreaBottom(),
