@@ -1,0 +1,17 @@
+#pragma once
+// The timeline's words: times as a clock shows them and the summary read out for the chart.
+
+#include "TimelineSeries.h"
+
+#include <string>
+#include <string_view>
+
+// "m:ss" under an hour, "h:mm:ss" from an hour; whole seconds, rounded down. Negative or
+// non-finite times read 0:00.
+std::string clockText(double seconds);
+
+// A speed with one decimal and its unit: "87.5 KM/H".
+std::string speedText(float speed, std::string_view unitName);
+
+// "Speed over 3:00, highest 87.5 KM/H at 1:42", or "No speed recorded over 3:00".
+std::string seriesSummary(const TimelineSeries& series, std::string_view unitName);
