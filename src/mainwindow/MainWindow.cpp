@@ -62,6 +62,7 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& a
         .mapMBTiles = ui.mapMBTiles,
         .mapTileFolder = ui.mapTileFolder,
         .mapWorkOffline = ui.mapWorkOffline,
+        .timeline = ui.timeline,
         .txtElapsed = ui.txtElapsed,
         .txtTripSummary = ui.txtTripSummary,
         .actionContinuousPlay = ui.actionContinuousPlay,

@@ -176,6 +176,9 @@ private:
     // The timeline's series and route ahead on the timeline widget and the map.
     void showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips);
     void showTimelineCursor(double seconds);
+    void setupTimeline();
+    // The timeline's tooltip: the time, the speed and the place there.
+    QString timelineHoverText(double seconds) const;
     // The next entry of the loaded clip's trip under continuous play; absent between trips.
     std::optional<int64_t> continuationOf(int64_t row) const;
     // Marks a row whose file would not open and says why over the movie.
@@ -202,7 +205,6 @@ private:
     TripIndex tripIndex_;
     TripSpan timelineSpan_;
     TripClock timelineClock_;
-    TimelineSeries timelineSeries_;
     double timelinePosition_ = 0;
     // Files that would not open when they were chosen, and why.
     std::map<std::filesystem::path, QString> clipProblems_;

@@ -44,6 +44,7 @@ void MainWindowDelegate::setupControls() {
         setSliderFraction(*o.volumeSlider, o.player->engine().volume());
 
     setupPlaylistTable();
+    setupTimeline();
     RefreshMenu();
     RefreshUnits();
     ResetControls();
@@ -65,6 +66,7 @@ void MainWindowDelegate::OnUnitChanged(QAction* sender) {
     // An item without a tag counts as tag 0, as a menu item's default tag would.
     settings_.setUnitType(sender->data().toULongLong());
     setupPlaylistTable();
+    setupTimeline();
     RefreshMenu();
     RefreshUnits();
     // The timeline's speeds are in the unit too.

@@ -10,6 +10,7 @@
 #include "PlaylistTableModel.h"
 #include "SliderFraction.h"
 #include "TimelineSeries.h"
+#include "TimelineView.h"
 #include "TripText.h"
 
 #include <QFile>
@@ -17,6 +18,7 @@
 #include <QLabel>
 #include <QSlider>
 
+#include <algorithm>
 #include <cmath>
 #include <system_error>
 
@@ -151,12 +153,38 @@ double MainWindowDelegate::currentClipSeconds() const {
     return std::isfinite(seconds) ? seconds : 0.0;
 }
 
-void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips) {
-    timelineSeries_ = std::move(series);
-    showRouteAhead(clips);
+void MainWindowDelegate::setupTimeline() {
+    TimelineView* timeline = outlets_.timeline;
+    if (timeline == nullptr) return;
+    QObject::connect(timeline, &TimelineView::seekRequested, this, [this](double seconds) { seekTimeline(seconds); });
+    timeline->setHoverTextProvider([this](double seconds) { return timelineHoverText(seconds); });
 }
 
-void MainWindowDelegate::showTimelineCursor(double seconds) { (void)seconds; }
+QString MainWindowDelegate::timelineHoverText(double seconds) const {
+    QString text = qText(durationText(seconds));
+    const auto point = outlets_.timeline != nullptr ? outlets_.timeline->series().pointAt(seconds) : std::nullopt;
+    if (!point) return text + QStringLiteral(" · no GPS");
+    text += QStringLiteral(" · %1 %2").arg(point->speed, 0, 'f', 1).arg(qText(settings_.SpeedUnitName()));
+    // The route's points are in time order: the one on screen at this time.
+    const auto after = std::upper_bound(routeAhead_.begin(), routeAhead_.end(), seconds,
+                                        [](double t, const RouteAheadPoint& p) { return t < p.seconds; });
+    if (after != routeAhead_.begin() && seconds < (after - 1)->seconds + 1.0) {
+        const Coordinate place = (after - 1)->place;
+        text += QStringLiteral(" · %1, %2").arg(place.latitude, 0, 'f', 5).arg(place.longitude, 0, 'f', 5);
+    }
+    return text;
+}
+
+void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips) {
+    showRouteAhead(clips);
+    if (outlets_.timeline == nullptr) return;
+    outlets_.timeline->setSpeedUnitName(qText(settings_.SpeedUnitName()));
+    outlets_.timeline->setSeries(std::move(series));
+}
+
+void MainWindowDelegate::showTimelineCursor(double seconds) {
+    if (outlets_.timeline != nullptr) outlets_.timeline->setPosition(seconds);
+}
 
 double MainWindowDelegate::timelinePosition() const { return timelinePosition_; }
 

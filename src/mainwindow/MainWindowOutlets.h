@@ -14,6 +14,7 @@ class QLabel;
 class QMainWindow;
 class QSlider;
 class QWidget;
+class TimelineView;
 
 struct MainWindowOutlets {
     QMainWindow* window = nullptr;
@@ -69,6 +70,8 @@ struct MainWindowOutlets {
     QAction* mapTileFolder = nullptr;
     QAction* mapWorkOffline = nullptr;
 
+    // The speed over time under the movie, of the clip or, under continuous play, of its trip.
+    TimelineView* timeline = nullptr;
     // "1:42 / 3:00" beside the position slider: the clip's, or the trip's under continuous play.
     QLabel* txtElapsed = nullptr;
     // Under the playlist: the trip of the selected row in a sentence.
