@@ -136,7 +136,8 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
         break;
     }
     }
-    RefreshUnits();
+    // Going on through a trip the speed stays as it was; the new clip has no sample yet to show.
+    if (!continuing_) RefreshUnits();
     // A file that no longer plays (deleted, or broken since it was added) leaves the engine empty;
     // playing it would come back here to load it again, without end. Its read-outs are idle, not
     // the last clip's.

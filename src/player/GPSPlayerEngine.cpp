@@ -185,8 +185,8 @@ void GPSPlayerEngine::tick() {
         prevStatus_ = static_cast<int64_t>(status);
         if (delegate_) delegate_->UpdatedPlayingStatus(*this, status == PlayerStatus::Playing);
     }
+    // A frame step plays for a moment: the move it awaits is seen once the player rests again.
     if (mediaPlayer_ && status == PlayerStatus::Playing) {
-        pausedMoveFrom_.reset();
         update();
         return;
     }

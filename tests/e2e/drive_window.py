@@ -154,6 +154,16 @@ class Window:
         low, high = value.minimumValue, value.maximumValue
         return (value.currentValue - low) / (high - low) if high > low else 0.0
 
+    def timeline(self):
+        """The Timeline's position in seconds and its accessible object."""
+        acc = self.named("Timeline", (pyatspi.ROLE_SLIDER,))
+        return acc.queryValue().currentValue, acc
+
+    def click_at(self, acc, fraction):
+        """A left click at a fraction of the item's width, half way down."""
+        x, y, width, height = acc.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        run("xdotool", "mousemove", "--sync", str(int(x + width * fraction)), str(int(y + height / 2)), "click", "1")
+
     def press(self, name):
         acc = self.named(name, (pyatspi.ROLE_PUSH_BUTTON,))
         acc.queryAction().doAction(0)
@@ -430,11 +440,97 @@ class Session:
         self.shoot("about-closed")
         print("e2e: the About view fades in over the playing movie and away again")
 
+    def trip_of(self, clip):
+        """The clips of the trip that holds clip: consecutive names whose first seconds follow on."""
+        index = self.clips.index(clip)
+        start = index
+        while start > 0 and self.clips[start - 1].first_second + self.clips[start - 1].seconds == self.clips[start].first_second:
+            start -= 1
+        end = index
+        while end + 1 < len(self.clips) and self.clips[end].first_second + self.clips[end].seconds == self.clips[end + 1].first_second:
+            end += 1
+        return self.clips[start:end + 1]
+
+    def continuous_play_carries_the_readouts(self):
+        self.window.choose_menu_item("Play Clips Continuously")
+        # The second clip of the first trip, playing, ten seconds before its end.
+        second = self.clips[1]
+        for _ in range(4):
+            if self.current_clip() == second:
+                break
+            self.window.key("ctrl+Left" if self.clips.index(self.current_clip()) > 1 else "ctrl+Right")
+            time.sleep(0.5)
+        wait_for(f"the title to name {second.name}", lambda: (self.current_clip() == second, self.window.text("Title")))
+        if not self.playing():
+            self.window.key("space")
+        wait_for(f"{second.name} playing", lambda: (self.playing(), self.buttons()))
+        self.window.key("Right")
+        following = self.clips[2]
+        seen = []
+        end = time.monotonic() + second.seconds + DEADLINE
+        # Every reading across the change of clip: the read-outs never go idle in between.
+        while time.monotonic() < end:
+            clip, speed = self.current_clip(), self.window.text("Speed")
+            seen.append((clip.name if clip else None, speed))
+            if speed in ("", "00.00"):
+                raise Failure(f"expected the read-outs to carry on from {second.name} into {following.name}; "
+                              f"saw {speed!r} in {clip.name if clip else None}")
+            if clip == following and self.route.second_of(following, speed, self.unit()) not in (None, 0):
+                break
+            time.sleep(0.05)
+        else:
+            raise Failure(f"expected {following.name} to follow {second.name} at once; saw {seen[-5:]}")
+        wait_for(f"{following.name} playing on by itself", lambda: (self.playing(), self.buttons()))
+        self.samples(3)
+        self.shoot("continuous-play")
+        print(f"e2e: continuous play goes from {second.name} into {following.name}, {len(seen)} readings, none idle")
+
+    def timeline_click_seeks_while_paused(self):
+        self.window.key("space")
+        wait_for("paused", lambda: (self.paused(), self.buttons()))
+        trip = self.trip_of(self.current_clip())
+        total = sum(c.seconds for c in trip)
+        _, timeline = self.window.timeline()
+        self.window.click_at(timeline, 0.6)
+        # Where the click landed, by the timeline's own account, then the clip and second it names.
+        target = wait_for("the timeline's position to move to about 60 % of the trip",
+                          lambda: (abs((v := self.window.timeline()[0]) - 0.6 * total) < 0.1 * total, v))
+        offset = target
+        for clip in trip:
+            if offset < clip.seconds:
+                break
+            offset -= clip.seconds
+        wait_for(f"the title to name {clip.name}", lambda: (self.current_clip() == clip, self.window.text("Title")))
+        expected = int(offset)
+
+        def shows_that_second():
+            speed = self.window.text("Speed")
+            second = self.route.second_of(clip, speed, self.unit())
+            return second is not None and abs(second - expected) <= 1, f"{speed} (second {second})"
+        wait_for(f"the speed of second {expected} of {clip.name} while paused", shows_that_second)
+        if not self.paused():
+            raise Failure(f"expected the movie to stay paused after a click on the timeline; {self.buttons()}")
+        self.shoot("timeline-click-paused")
+        print(f"e2e: a click on the timeline at {target:.1f} s of the trip shows second {expected} of {clip.name}")
+
+    def period_steps_one_frame(self):
+        before = self.window.timeline()[0]
+        self.window.key("period")
+        after = wait_for(f"the position to move one frame on from {before:.3f} s",
+                         lambda: ((v := self.window.timeline()[0]) > before + 0.01, v))
+        if after - before > 0.5:
+            raise Failure(f"expected one frame (1/15 s) forward from {before:.3f} s; went to {after:.3f} s")
+        if not self.paused():
+            raise Failure(f"expected the movie to stay paused after a frame step; {self.buttons()}")
+        self.shoot("frame-step")
+        print(f"e2e: . steps one frame, {before:.3f} s to {after:.3f} s")
+
     def run(self):
         self.window = Window(self.process)
         for step in (self.first_clip_plays, self.space_pauses_and_plays, self.right_steps_ten_seconds,
                      self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back,
-                     self.active_and_inactive, self.about_over_the_window):
+                     self.active_and_inactive, self.about_over_the_window, self.continuous_play_carries_the_readouts,
+                     self.timeline_click_seeks_while_paused, self.period_steps_one_frame):
             try:
                 step()
             except Failure:
