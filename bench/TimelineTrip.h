@@ -22,8 +22,8 @@ inline TimelineSeries hourTrip() {
         previousInGap = false;
         // Cruising speed by stretch, with a stop at a light every few minutes in town.
         const double cruise = t < 900 ? 45 : t < 2400 ? 110 + 12 * std::sin(t / 170.0) : 55;
-        const double light = t < 900 || t >= 2940 ? std::clamp(std::abs(std::fmod(t, 240.0) - 120) / 25 - 0.4, 0.0, 1.0)
-                                                  : 1.0;
+        const double light =
+            t < 900 || t >= 2940 ? std::clamp(std::abs(std::fmod(t, 240.0) - 120) / 25 - 0.4, 0.0, 1.0) : 1.0;
         const double wobble = 3 * std::sin(t / 7.0) + 2 * std::sin(t / 3.1);
         const float speed = float(std::max(0.0, cruise * light + wobble * light));
         series.runs.back().push_back({double(t), speed, 0, std::size_t(t + 1)});

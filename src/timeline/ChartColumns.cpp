@@ -13,9 +13,7 @@ struct Segment {
     double bottom0, bottom1;
 
     double topAt(double x) const { return x1 > x0 ? top0 + (top1 - top0) * (x - x0) / (x1 - x0) : top0; }
-    double bottomAt(double x) const {
-        return x1 > x0 ? bottom0 + (bottom1 - bottom0) * (x - x0) / (x1 - x0) : bottom0;
-    }
+    double bottomAt(double x) const { return x1 > x0 ? bottom0 + (bottom1 - bottom0) * (x - x0) / (x1 - x0) : bottom0; }
 };
 
 // Accumulates a column before the area's top is known as a mean.

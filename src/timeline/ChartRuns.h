@@ -9,8 +9,8 @@
 #include <vector>
 
 struct ChartVertex {
-    double x = 0;    // in the scale's units: device pixels when drawing
-    float low = 0;   // the lowest and highest speed drawn at x; equal for a lone sample
+    double x = 0;   // in the scale's units: device pixels when drawing
+    float low = 0;  // the lowest and highest speed drawn at x; equal for a lone sample
     float high = 0;
     bool operator==(const ChartVertex&) const = default;
 };

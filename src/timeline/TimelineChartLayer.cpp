@@ -41,7 +41,8 @@ struct Ink {
         if (a <= 0) return;
         const float keep = 1 - a;
         const auto mix = [&](float source, int destination) { return int(source * a + destination * keep + 0.5f); };
-        pixel = qRgba(mix(red, qRed(pixel)), mix(green, qGreen(pixel)), mix(blue, qBlue(pixel)), mix(255, qAlpha(pixel)));
+        pixel =
+            qRgba(mix(red, qRed(pixel)), mix(green, qGreen(pixel)), mix(blue, qBlue(pixel)), mix(255, qAlpha(pixel)));
     }
 };
 
@@ -54,7 +55,8 @@ void paintColumns(QImage& image, const std::vector<ChartColumn>& columns, float 
     shades.reserve(std::size_t(rows));
     for (int y = 0; y < rows; ++y) {
         const float depth = std::clamp((y + 0.5f - chartTop) / std::max(1.0f, baseline - chartTop), 0.0f, 1.0f);
-        shades.emplace_back(look.areaTop, float(look.areaTop.alphaF() * (1 - depth) + look.areaBottom.alphaF() * depth));
+        shades.emplace_back(look.areaTop,
+                            float(look.areaTop.alphaF() * (1 - depth) + look.areaBottom.alphaF() * depth));
     }
     const Ink line(look.line);
     for (int x = 0; x < int(columns.size()) && x < image.width(); ++x) {
@@ -128,8 +130,7 @@ void paintHighest(QPainter& painter, const TimelineSeries& series, QSize size, c
     const double width = metrics.horizontalAdvance(text) + 2;
     const double left = std::clamp(peak.x() - width / 2, 3.0, std::max(3.0, size.width() - 3.0 - width));
     painter.setPen(TimelineColours::label());
-    painter.drawText(QRectF(left, 0, width, TimelineLayout::kChartTop - 2), Qt::AlignHCenter | Qt::AlignBottom,
-                     text);
+    painter.drawText(QRectF(left, 0, width, TimelineLayout::kChartTop - 2), Qt::AlignHCenter | Qt::AlignBottom, text);
 }
 
 }  // namespace
@@ -150,7 +151,8 @@ void TimelineChartLayer::prepare(const TimelineSeries& series, std::uint64_t ser
 
 void TimelineChartLayer::rebuild(const TimelineSeries& series, QSize size, double devicePixelRatio,
                                  const QString& unitName) {
-    const QSize pixels(int(std::ceil(size.width() * devicePixelRatio)), int(std::ceil(size.height() * devicePixelRatio)));
+    const QSize pixels(int(std::ceil(size.width() * devicePixelRatio)),
+                       int(std::ceil(size.height() * devicePixelRatio)));
     if (pixels.isEmpty() || pixels.width() > 32'768 || pixels.height() > 4'096) {
         unplayed_ = played_ = QImage();
         return;
@@ -163,8 +165,8 @@ void TimelineChartLayer::rebuild(const TimelineSeries& series, QSize size, doubl
         painter.setRenderHint(QPainter::Antialiasing);
         paintBackground(painter, series, size, devicePixelRatio);
     }
-    const TimelineScale scale = TimelineLayout::chartScale(size.width(), size.height(), series.totalSeconds,
-                                                           series.maxSpeed, devicePixelRatio);
+    const TimelineScale scale =
+        TimelineLayout::chartScale(size.width(), size.height(), series.totalSeconds, series.maxSpeed, devicePixelRatio);
     const std::vector<ChartRun> runs = chartRuns(series, scale);
     const auto draw = [&](QImage& image, const Look& look) {
         image = background.copy();
@@ -176,8 +178,8 @@ void TimelineChartLayer::rebuild(const TimelineSeries& series, QSize size, doubl
     };
     draw(unplayed_, {TimelineColours::unplayedAreaTop(), TimelineColours::unplayedAreaBottom(),
                      TimelineColours::unplayedLine(), 1.0});
-    draw(played_, {TimelineColours::playedAreaTop(), TimelineColours::playedAreaBottom(), TimelineColours::playedLine(),
-                   1.5});
+    draw(played_,
+         {TimelineColours::playedAreaTop(), TimelineColours::playedAreaBottom(), TimelineColours::playedLine(), 1.5});
 }
 
 void TimelineChartLayer::paint(QPainter& painter, const QRect& rect, double splitX) const {

@@ -82,8 +82,8 @@ void TimelineView::setHoverTextProvider(std::function<QString(double)> provider)
 QString TimelineView::hoverText(double seconds) const {
     if (hoverTextProvider_) return hoverTextProvider_(seconds);
     const std::optional<TimelinePoint> point = series_.pointAt(seconds);
-    const QString speed = point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString()))
-                                : QStringLiteral("no GPS");
+    const QString speed =
+        point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString())) : QStringLiteral("no GPS");
     return QString::fromStdString(clockText(seconds)) + QStringLiteral("  ") + speed;
 }
 
@@ -150,11 +150,16 @@ void TimelineView::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (!plain || series_.totalSeconds <= 0) return event->ignore();
     switch (event->key()) {
-        case Qt::Key_Left: return requestSeek(position_ - stepSeconds_);
-        case Qt::Key_Right: return requestSeek(position_ + stepSeconds_);
-        case Qt::Key_Home: return requestSeek(0);
-        case Qt::Key_End: return requestSeek(series_.totalSeconds);
-        default: return event->ignore();
+        case Qt::Key_Left:
+            return requestSeek(position_ - stepSeconds_);
+        case Qt::Key_Right:
+            return requestSeek(position_ + stepSeconds_);
+        case Qt::Key_Home:
+            return requestSeek(0);
+        case Qt::Key_End:
+            return requestSeek(series_.totalSeconds);
+        default:
+            return event->ignore();
     }
 }
 

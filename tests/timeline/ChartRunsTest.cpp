@@ -20,14 +20,6 @@ TimelineSeries seriesOf(double totalSeconds, std::vector<std::vector<std::pair<d
 
 TimelineScale scaleOf(double width, double totalSeconds) { return {0, width, 0, 100, totalSeconds, 100}; }
 
-// Fewer samples than pixels: every sample keeps its own vertex at its time, and the run reaches
-// the end of its last second.
-TEST(ChartRunsTest, SparseSamplesKeepTheirOwnVertices) {
-    const auto runs = chartRuns(seriesOf(60, {{{0, 10}, {1, 20}, {2, 15}}}), scaleOf(600, 60));
-    ASSERT_EQ(runs.size(), 1u);
-    EXPECT_EQ(runs[0], (ChartRun{{0, 10, 10}, {10, 20, 20}, {20, 15, 15}, {30, 15, 15}}));
-}
-
 // An hour on 1,280 columns: at most one vertex per column, and each column's range holds every
 // sample drawn in it, the top speed included.
 TEST(ChartRunsTest, DenseSamplesMergeIntoOneVertexPerColumnKeepingTheirRange) {
@@ -42,19 +34,21 @@ TEST(ChartRunsTest, DenseSamplesMergeIntoOneVertexPerColumnKeepingTheirRange) {
     for (std::size_t i = 1; i < run.size(); ++i) ASSERT_LT(std::floor(run[i - 1].x), std::floor(run[i].x));
     for (auto [seconds, speed] : points) {
         const double column = std::floor(scale.xAtTime(seconds));
-        const auto vertex = std::find_if(run.begin(), run.end(), [&](const ChartVertex& v) { return std::floor(v.x) == column; });
+        const auto vertex =
+            std::find_if(run.begin(), run.end(), [&](const ChartVertex& v) { return std::floor(v.x) == column; });
         ASSERT_NE(vertex, run.end()) << seconds;
         ASSERT_TRUE(vertex->low <= speed && speed <= vertex->high) << seconds;
     }
 }
 
-// A gap stays a gap, and points that are not numbers are left out without ending their run.
+// A sample a pixel keeps its own vertex, the run reaching the end of its last second; a gap stays
+// a gap, and points that are not numbers are left out without ending their run.
 TEST(ChartRunsTest, RunsStaySeparateAndBadPointsAreLeftOut) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    const auto runs = chartRuns(seriesOf(100, {{{0, 10}, {nan, 99}, {1, 12}},
-                                               {{2, std::numeric_limits<float>::infinity()}},
-                                               {{50, 30}, {51, 31}}}),
-                                scaleOf(100, 100));
+    const auto runs = chartRuns(
+        seriesOf(100,
+                 {{{0, 10}, {nan, 99}, {1, 12}}, {{2, std::numeric_limits<float>::infinity()}}, {{50, 30}, {51, 31}}}),
+        scaleOf(100, 100));
     ASSERT_EQ(runs.size(), 2u);
     EXPECT_EQ(runs[0], (ChartRun{{0, 10, 10}, {1, 12, 12}, {2, 12, 12}}));
     EXPECT_EQ(runs[1].front().x, 50);

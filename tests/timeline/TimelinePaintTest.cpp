@@ -73,7 +73,8 @@ TEST(TimelineRepaintTest, MovingTheCursorRepaintsOnlyTheStripItCrossed) {
     view.setPosition(110);
     QApplication::processEvents();
     const QRect strip = view.painted.boundingRect();
-    EXPECT_TRUE(strip.contains(7 + 100, 0) && strip.contains(7 + 110, kHeight - 1)) << strip.x() << "+" << strip.width();
+    EXPECT_TRUE(strip.contains(7 + 100, 0) && strip.contains(7 + 110, kHeight - 1))
+        << strip.x() << "+" << strip.width();
     EXPECT_LE(strip.width(), 10 + 16);
 }
 
