@@ -13,8 +13,8 @@
 #include "TimelineView.h"
 #include "TripText.h"
 
-#include <QFile>
 #include <QAction>
+#include <QFile>
 #include <QLabel>
 #include <QSlider>
 
@@ -25,6 +25,12 @@
 namespace {
 
 QString qText(const std::string& text) { return QString::fromStdString(text); }
+
+// Whether every clip of the trip that holds row has been read.
+bool tripKnown(const TripIndex& trips, int64_t row) {
+    const auto trip = row >= 0 ? trips.tripOfRow(static_cast<std::size_t>(row)) : std::nullopt;
+    return trip && trips.trips()[*trip].known;
+}
 
 }  // namespace
 
@@ -45,9 +51,7 @@ void MainWindowDelegate::refreshTrips() {
         rows.push_back(record != nullptr ? std::optional(record->facts) : std::nullopt);
     }
     const TripSpan shownSpan = timelineSpan_;
-    const bool shownKnown = !tripIndex_.trips().empty() && curIndex >= 0 &&
-                            static_cast<std::size_t>(curIndex) < rows.size() &&
-                            tripIndex_.tripOfRow(curIndex) && tripIndex_.trips()[*tripIndex_.tripOfRow(curIndex)].known;
+    const bool shownKnown = tripKnown(tripIndex_, curIndex);
     tripIndex_ = TripIndex(rows);
 
     if (playlistModel_ != nullptr) {
@@ -75,10 +79,8 @@ void MainWindowDelegate::refreshTrips() {
     RefreshTripSummary();
 
     // The timeline follows what became known of the loaded clip's trip, and only that.
-    const bool nowKnown = curIndex >= 0 && tripIndex_.tripOfRow(curIndex) &&
-                          tripIndex_.trips()[*tripIndex_.tripOfRow(curIndex)].known;
     const TripSpan span = curIndex >= 0 && settings_.continuousPlay() ? tripIndex_.spanOfRow(curIndex) : shownSpan;
-    if (span != shownSpan || nowKnown != shownKnown) refreshTimeline();
+    if (span != shownSpan || tripKnown(tripIndex_, curIndex) != shownKnown) refreshTimeline();
 }
 
 void MainWindowDelegate::RefreshTripSummary() {
@@ -123,7 +125,6 @@ void MainWindowDelegate::refreshTimeline() {
         span = settings_.continuousPlay() ? tripIndex_.spanOfRow(static_cast<std::size_t>(curIndex))
                                           : TripSpan{static_cast<std::size_t>(curIndex), 1};
     std::vector<TimelineClip> clips;
-    std::vector<std::shared_ptr<const std::vector<GPSData>>> keep;
     for (std::size_t row = span.first; row < span.first + span.count; ++row) {
         TimelineClip clip;
         const ClipRecord* record = clipCatalog_ != nullptr ? clipCatalog_->find(playlist.at(row).URL()) : nullptr;
