@@ -1,24 +1,8 @@
 #include "TripText.h"
 
+#include <chrono>
 #include <cmath>
 #include <cstdio>
-
-namespace {
-
-// Days since 1970-01-01 to a civil date (proleptic Gregorian).
-void civilFromDays(int64_t days, int64_t& year, unsigned& month, unsigned& day) {
-    days += 719468;
-    const int64_t era = (days >= 0 ? days : days - 146096) / 146097;
-    const auto dayOfEra = static_cast<unsigned>(days - era * 146097);
-    const unsigned yearOfEra = (dayOfEra - dayOfEra / 1460 + dayOfEra / 36524 - dayOfEra / 146096) / 365;
-    const unsigned dayOfYear = dayOfEra - (365 * yearOfEra + yearOfEra / 4 - yearOfEra / 100);
-    const unsigned mp = (5 * dayOfYear + 2) / 153;
-    day = dayOfYear - (153 * mp + 2) / 5 + 1;
-    month = mp < 10 ? mp + 3 : mp - 9;
-    year = int64_t(yearOfEra) + era * 400 + (month <= 2);
-}
-
-}  // namespace
 
 std::string durationText(double seconds) {
     const int64_t whole = std::isfinite(seconds) && seconds > 0 ? int64_t(std::min(seconds, 1e9)) : 0;
@@ -44,14 +28,14 @@ std::string distanceText(double metres) {
 }
 
 std::string clockText(int64_t seconds) {
-    const int64_t days = seconds >= 0 ? seconds / 86400 : (seconds - 86399) / 86400;
-    const int64_t ofDay = seconds - days * 86400;
-    int64_t year = 0;
-    unsigned month = 0, day = 0;
-    civilFromDays(days, year, month, day);
+    using namespace std::chrono;
+    const sys_seconds instant{std::chrono::seconds{seconds}};
+    const sys_days day = floor<days>(instant);
+    const year_month_day date{day};
+    const hh_mm_ss clock{instant - day};
     char text[48];
-    std::snprintf(text, sizeof text, "%04lld-%02u-%02u %02d:%02d", static_cast<long long>(year), month, day,
-                  int(ofDay / 3600), int(ofDay / 60 % 60));
+    std::snprintf(text, sizeof text, "%04d-%02u-%02u %02d:%02d", int(date.year()), unsigned(date.month()),
+                  unsigned(date.day()), int(clock.hours().count()), int(clock.minutes().count()));
     return text;
 }
 
