@@ -96,6 +96,28 @@ TEST_F(TripControllerTest, GoingOnThroughATripTheReadOutsKeepTheLastSampleUntilT
     EXPECT_NE(speedText(), lastSpeed);
 }
 
+// The hold on the read-outs belongs to the clip that continued the trip: a clip that ends before
+// it shows a sample (no GPS, or shorter than a second) must not carry it into the next trip, nor
+// into a clip the user picks.
+TEST_F(TripControllerTest, TheReadOutsHeldIntoAClipThatShowsNoSampleGoIdleOnLeavingTheTrip) {
+    ASSERT_NO_FATAL_FAILURE(openClips(true));
+    playTo(2.0);
+    endClip();
+    ASSERT_EQ(controller.curIndex, 1);
+    controller.OnNext(btNext);  // the user's choice, before the clip has a sample of its own
+    EXPECT_EQ(speedText(), GPSInfoPanel::idleSpeedText) << "a chosen clip starts like any other";
+
+    controller.playWithIndex(1, true);
+    playTo(1.0);
+    ASSERT_NE(speedText(), GPSInfoPanel::idleSpeedText);
+    endClip();
+    ASSERT_EQ(controller.curIndex, 2);
+    endClip();  // the trip's last clip ends unseen
+    ASSERT_EQ(controller.curIndex, 3);
+    EXPECT_FALSE(playing());
+    EXPECT_EQ(speedText(), GPSInfoPanel::idleSpeedText) << "the next trip waits like any clip between trips";
+}
+
 TEST_F(TripControllerTest, AClipWhoseFileWentSaysSoAndLeavesPrevAndNextToTheUser) {
     ASSERT_NO_FATAL_FAILURE(openClips(false));
     playTo(1.0);
