@@ -82,6 +82,7 @@ void MainWindowDelegate::OnPause(QObject* /*sender*/) {
 void MainWindowDelegate::OnStop(QObject* /*sender*/) {
     if (GPSPlayerEngine* player = engine()) player->Stop();
     continuing_ = false;
+    holdingReadOuts_ = false;
     entryFailed_ = false;
     if (outlets_.player != nullptr) outlets_.player->clearMessage();
     ResetControls();
@@ -110,6 +111,7 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
         // Going on through a trip, the read-outs keep the last clip's sample until the next one
         // has its own: no idle texts in between.
         const bool continuing = std::exchange(continuing_, false);
+        holdingReadOuts_ = false;
         if (!continuing) OnStop(nullptr);
         curIndex = index;
         selectRow(index);
@@ -130,14 +132,14 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
         } else {
             if (clipProblems_.erase(url) > 0) refreshTrips();
             if (outlets_.player != nullptr) outlets_.player->clearMessage();
-            continuing_ = continuing;
+            holdingReadOuts_ = continuing;
         }
         refreshTimeline();
         break;
     }
     }
     // Going on through a trip the speed stays as it was; the new clip has no sample yet to show.
-    if (!continuing_) RefreshUnits();
+    if (!holdingReadOuts_) RefreshUnits();
     // A file that no longer plays (deleted, or broken since it was added) leaves the engine empty;
     // playing it would come back here to load it again, without end. Its read-outs are idle, not
     // the last clip's.

@@ -30,11 +30,11 @@ GPSInfoPanel MainWindowDelegate::infoPanel() const {
 void MainWindowDelegate::UpdatedGPSInfo(GPSPlayerEngine& /*engine*/, const GPSData& data, uint64_t index) {
     // Going on through a trip, the next clip's empty lead-in would flash idle read-outs between
     // two samples a second apart: the last clip's sample stays until this clip has its own.
-    if (continuing_ && index == 0) {
+    if (holdingReadOuts_ && index == 0) {
         showCarLocation(data, 0);
         return;
     }
-    continuing_ = false;
+    holdingReadOuts_ = false;
     infoPanel().show(data);
     showCarLocation(data, static_cast<int64_t>(index));
 }

@@ -208,9 +208,11 @@ private:
     double timelinePosition_ = 0;
     // Files that would not open when they were chosen, and why.
     std::map<std::filesystem::path, QString> clipProblems_;
-    // True from the end of a clip until the next clip of its trip shows its first sample: the
-    // read-outs keep the last sample instead of the lead-in's empty one.
+    // Set by the end of a clip for the load of the next clip of its trip, and spent by that load.
     bool continuing_ = false;
+    // From that load until the clip shows its first sample: the read-outs keep the last sample
+    // instead of the lead-in's empty one. Any other load ends it.
+    bool holdingReadOuts_ = false;
     // The loaded entry was chosen but would not open.
     bool entryFailed_ = false;
     bool quitAtEnd_ = false;

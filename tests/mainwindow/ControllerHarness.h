@@ -11,6 +11,7 @@
 #include "PlayerTestDoubles.h"
 #include "PlayerTestSupport.h"
 
+#include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QMainWindow>
@@ -38,9 +39,11 @@ public:
         factory->next = player;
         settings.utils().setMapSource("offline");  // no tile server from a test
         player->duration = MediaTime::make(100000, 1000);
+        auto updateTimer = std::make_unique<ManualUpdateTimer>();
+        timer = updateTimer.get();
         view = new GPSPlayerView(
             factory, [](QWidget* parent) { return std::make_unique<RecordingSurface>(parent); },
-            std::make_unique<ManualUpdateTimer>(), settings.utils(), &window);
+            std::move(updateTimer), settings.utils(), &window);
         controlView = new GPSControlView(settings.utils(), &window);
         table = new GPSTableView(&window);
         durationSlider = slider("durationSlider", 100000);
@@ -83,6 +86,11 @@ public:
     bool playing() const { return player->status == PlayerStatus::Playing; }
     // The player reports the end of its movie.
     void finishMovie() { controller.Completed(view->engine()); }
+    // One firing of the engine's timer and the tick it posts, as the event loop would run them.
+    void tick() {
+        timer->fire();
+        QCoreApplication::processEvents();
+    }
 
     int64_t selectedRow() const {
         const QModelIndexList rows =
@@ -100,6 +108,7 @@ public:
     QMainWindow window;
     MainWindowDelegate controller;
     GPSPlayerView* view = nullptr;
+    ManualUpdateTimer* timer = nullptr;  // owned by the view's engine
     GPSControlView* controlView = nullptr;
     GPSTableView* table = nullptr;
     MapView* mapView = nullptr;

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <system_error>
 #include <vector>
 
 struct FakePlayerState {
@@ -61,7 +62,8 @@ private:
     std::shared_ptr<FakePlayerState> s_;
 };
 
-// Hands out a player on the state the test prepared in next, or none when next is null.
+// Hands out a player on the state the test prepared in next, or none when next is null or, as
+// with a real player, when the file is not there.
 class FakeMediaPlayerFactory final : public MediaPlayerFactory {
 public:
     std::shared_ptr<FakePlayerState> next;
@@ -70,7 +72,8 @@ public:
 
     std::unique_ptr<MediaPlayer> playerWithURL(const std::filesystem::path& url) override {
         requested.push_back(url);
-        if (!next) return nullptr;
+        std::error_code error;
+        if (!next || !std::filesystem::exists(url, error)) return nullptr;
         return std::make_unique<FakeMediaPlayer>(next);
     }
     std::unique_ptr<MediaPlayer> emptyPlayer() override {
