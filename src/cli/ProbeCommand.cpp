@@ -14,6 +14,9 @@ constexpr std::pair<GPSLayout, std::string_view> kLayoutNames[] = {
     {GPSLayout::None, "none"},
     {GPSLayout::Index, "index"},
     {GPSLayout::SoundChunk, "sound-chunk"},
+    {GPSLayout::Gpmf, "gpmf"},
+    {GPSLayout::NmeaSidecar, "nmea-sidecar"},
+    {GPSLayout::GpxSidecar, "gpx-sidecar"},
 };
 
 // Indexed like GPSTrack::formCounts.

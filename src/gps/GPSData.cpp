@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <chrono>
 #include <cmath>
 #include <cstdio>
 
@@ -77,6 +78,37 @@ void GPSData::SetData(GPSDATA record, bool isMP4) {
             break;
     }
     if (f.Year >= 2000) f.Year -= 2000;
+}
+
+GPSData GPSData::fromFix(const GPSFix& fix) {
+    GPSData sample;
+    RMCINFO& f = sample.data_.rmcinfo;
+    f.Status = fix.quality == GPSFix::Quality::NoFix ? 'V' : 'A';
+    f.NSInd = fix.latitude < 0 ? 'S' : 'N';
+    f.EWInd = fix.longitude < 0 ? 'W' : 'E';
+    f.Latitude = float(fix.latitude);
+    f.Longitude = float(fix.longitude);
+    // Metres a second to knots: the stored speed's unit, which the KM/H read-out multiplies by 1.852.
+    const double knots = fix.speedMetresPerSecond.value_or(0.0) * 3600.0 / 1852.0;
+    f.Speed = std::isfinite(knots) ? float(std::clamp(knots, 0.0, double(kSpeedCap))) : 0.0f;
+    f.Angle = float(fix.headingDegrees.value_or(0.0));
+    if (fix.clockSeconds && std::isfinite(*fix.clockSeconds) && std::fabs(*fix.clockSeconds) < 1e11) {
+        using namespace std::chrono;
+        const sys_seconds instant{seconds{int64_t(std::floor(*fix.clockSeconds))}};
+        const sys_days day = floor<days>(instant);
+        const year_month_day date{day};
+        const hh_mm_ss clock{instant - day};
+        const int year = int(date.year());
+        if (year >= 2000 && year < 2100) {
+            f.Year = uint32_t(year - 2000);
+            f.Month = unsigned(date.month());
+            f.Day = unsigned(date.day());
+            f.Hour = uint32_t(clock.hours().count());
+            f.Minute = uint32_t(clock.minutes().count());
+            f.Second = uint32_t(clock.seconds().count());
+        }
+    }
+    return sample;
 }
 
 float GPSData::Speed() const { return useKMH() ? SpeedKMH() : SpeedMPH(); }

@@ -1,6 +1,7 @@
 #pragma once
 // One GPS sample: the camera's record, normalised once, and every value and text derived from it.
 
+#include "GPSFix.h"
 #include "GPSRecord.h"
 
 #include <string>
@@ -37,6 +38,17 @@ public:
 
     // Which form SetData will decode a raw record as.
     static GPSRecordForm formOf(const GPSDATA& raw, bool isMP4);
+
+    // A sample from a fix of another way of storing a track, already in the normalised form: signed
+    // degrees, the speed in the unit the MPH read-out shows (knots), the date and time of the fix's
+    // clock. A fix without a clock has the date and time fields zero.
+    static GPSData fromFix(const GPSFix& fix);
+    // The same sample flagged as no longer a fix ('V'): a place held over a gap in the fixes.
+    GPSData heldOver() const {
+        GPSData held = *this;
+        held.data_.rmcinfo.Status = 'V';
+        return held;
+    }
 
 private:
     GPSDATA data_{};

@@ -15,11 +15,17 @@ enum class GPSLayout {
     None,        // no layout applies (or the file could not be opened)
     Index,       // a "gps " box lists the block offsets
     SoundChunk,  // one block after each sound chunk, at a fixed distance
+    Gpmf,        // a timed metadata track of KLV records (action cameras)
+    NmeaSidecar, // NMEA sentences in a file beside the movie
+    GpxSidecar,  // a GPX track beside the movie
 };
 
 // A track with what was learnt on the way, for tools that report more than the samples.
 struct GPSTrack {
     std::vector<GPSData> samples;
+    // Every fix, where the format keeps several a second (samples holds one a second of them);
+    // empty for the block layouts, whose samples are all there is.
+    std::vector<GPSFix> fixes;
     float maxSpeed = 0;
     GPSLayout layout = GPSLayout::None;
     bool isMP4 = false;

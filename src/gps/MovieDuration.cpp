@@ -12,7 +12,7 @@ uint64_t readU64BE(const uint8_t* p) { return uint64_t(readU32BE(p)) << 32 | rea
 
 }  // namespace
 
-std::optional<double> readMovieDuration(SeekableFile& file) {
+std::optional<MovieHeader> readMovieHeader(SeekableFile& file) {
     const FileRange moov = GPSDataLoader::loadBox("moov", file, 0);
     if (!moov.found()) return std::nullopt;
     const FileRange mvhd = GPSDataLoader::loadBox("mvhd", file, moov.location);
@@ -22,20 +22,24 @@ std::optional<double> readMovieDuration(SeekableFile& file) {
     std::array<uint8_t, 32> header{};
     file.seek(mvhd.location);
     const std::size_t got = file.read(header);
-    if (got < 20) return std::nullopt;
-    uint32_t timescale = 0;
-    uint64_t duration = 0;
-    if (header[0] == 1) {
-        if (got < 32) return std::nullopt;
-        timescale = readU32BE(&header[20]);
-        duration = readU64BE(&header[24]);
-    } else {
-        timescale = readU32BE(&header[12]);
-        duration = readU32BE(&header[16]);
-    }
+    if (got < 20 || (header[0] == 1 && got < 32)) return std::nullopt;
+    const bool wide = header[0] == 1;
+    const uint64_t created = wide ? readU64BE(&header[4]) : readU32BE(&header[4]);
+    const uint32_t timescale = readU32BE(&header[wide ? 20 : 12]);
+    const uint64_t duration = wide ? readU64BE(&header[24]) : readU32BE(&header[16]);
+    MovieHeader result;
     // All ones means "unknown" in either version.
-    if (timescale == 0 || duration == UINT64_MAX || (header[0] != 1 && duration == UINT32_MAX)) return std::nullopt;
-    return double(duration) / double(timescale);
+    const bool unknown = duration == UINT64_MAX || (!wide && duration == UINT32_MAX);
+    if (timescale != 0 && !unknown) result.durationSeconds = double(duration) / double(timescale);
+    constexpr uint64_t kSeconds1904To1970 = 2082844800;
+    if (created > kSeconds1904To1970 && created < (uint64_t(1) << 40))
+        result.creationSeconds = int64_t(created - kSeconds1904To1970);
+    return result;
+}
+
+std::optional<double> readMovieDuration(SeekableFile& file) {
+    const auto header = readMovieHeader(file);
+    return header ? header->durationSeconds : std::nullopt;
 }
 
 std::optional<double> readMovieDuration(const std::filesystem::path& url) {
