@@ -2,6 +2,9 @@
 
 namespace {
 
+// "#x0041" and "quot" fit; a longer name is no reference we decode.
+constexpr std::size_t kMaxReferenceChars = 8;
+
 bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
 bool isNameChar(char c) { return !isSpace(c) && c != '/' && c != '>' && c != '<' && c != '=' && c != '\0'; }
@@ -137,12 +140,12 @@ std::optional<std::string> decodeXmlText(std::string_view raw, std::size_t maxCh
     for (std::size_t i = 0; i < raw.size(); ++i) {
         if (out.size() >= maxChars) return std::nullopt;
         if (raw[i] == '&') {
-            const std::size_t semicolon = raw.find(';', i + 1);
-            // References are short; a far ';' belongs to something else.
-            if (semicolon != std::string_view::npos && semicolon - i <= 10) {
-                if (const auto c = entity(raw.substr(i + 1, semicolon - i - 1))) {
+            // References are short: looking further for their ';' would make "&&&&..." quadratic.
+            const std::size_t length = raw.substr(i + 1, kMaxReferenceChars + 1).find(';');
+            if (length != std::string_view::npos) {
+                if (const auto c = entity(raw.substr(i + 1, length))) {
                     out.push_back(*c);
-                    i = semicolon;
+                    i += length + 1;
                     continue;
                 }
             }
