@@ -15,7 +15,8 @@ constexpr uint64_t kLargeHeaderBytes = 16;
 BoxChildren::BoxChildren(SeekableFile& file, FileRange parent)
     : file_(file),
       at_(parent.location),
-      end_(parent.location + std::min(parent.length, file.size() > parent.location ? file.size() - parent.location : 0)) {}
+      end_(parent.location +
+           std::min(parent.length, file.size() > parent.location ? file.size() - parent.location : 0)) {}
 
 std::optional<Box> BoxChildren::next() {
     if (end_ - at_ < kHeaderBytes || walked_ >= kMaxChildren) return std::nullopt;
@@ -28,7 +29,8 @@ std::optional<Box> BoxChildren::next() {
     if (size == 1) {
         // The real size follows the type, in 64 bits.
         headerBytes = kLargeHeaderBytes;
-        if (end_ - at_ < headerBytes || file_.read(std::span(header.data() + kHeaderBytes, kHeaderBytes)) != kHeaderBytes)
+        if (end_ - at_ < headerBytes ||
+            file_.read(std::span(header.data() + kHeaderBytes, kHeaderBytes)) != kHeaderBytes)
             return std::nullopt;
         size = uint64_t(readU32BE(&header[8])) << 32 | readU32BE(&header[12]);
     } else if (size == 0) {

@@ -40,29 +40,59 @@ struct Item {
 
 std::size_t elementBytes(char type) {
     switch (type) {
-    case 'b': case 'B': case 'c': return 1;
-    case 's': case 'S': return 2;
-    case 'l': case 'L': case 'f': case 'q': case 'F': return 4;
-    case 'd': case 'j': case 'J': case 'Q': return 8;
-    default: return 0;  // a date, a GUID, a struct or a type nobody defined: no single number
+        case 'b':
+        case 'B':
+        case 'c':
+            return 1;
+        case 's':
+        case 'S':
+            return 2;
+        case 'l':
+        case 'L':
+        case 'f':
+        case 'q':
+        case 'F':
+            return 4;
+        case 'd':
+        case 'j':
+        case 'J':
+        case 'Q':
+            return 8;
+        default:
+            return 0;  // a date, a GUID, a struct or a type nobody defined: no single number
     }
 }
 
 double elementValue(char type, const uint8_t* p) {
     switch (type) {
-    case 'b': return int8_t(p[0]);
-    case 'B': case 'c': return p[0];
-    case 's': return int16_t(readU16BE(p));
-    case 'S': return readU16BE(p);
-    case 'l': return int32_t(readU32BE(p));
-    case 'L': case 'F': return readU32BE(p);
-    case 'f': return std::bit_cast<float>(readU32BE(p));
-    case 'q': return int32_t(readU32BE(p)) / 65536.0;
-    case 'd': return std::bit_cast<double>(readU64BE(p));
-    case 'j': return double(int64_t(readU64BE(p)));
-    case 'J': return double(readU64BE(p));
-    case 'Q': return double(int64_t(readU64BE(p))) / 4294967296.0;
-    default: return 0;
+        case 'b':
+            return int8_t(p[0]);
+        case 'B':
+        case 'c':
+            return p[0];
+        case 's':
+            return int16_t(readU16BE(p));
+        case 'S':
+            return readU16BE(p);
+        case 'l':
+            return int32_t(readU32BE(p));
+        case 'L':
+        case 'F':
+            return readU32BE(p);
+        case 'f':
+            return std::bit_cast<float>(readU32BE(p));
+        case 'q':
+            return int32_t(readU32BE(p)) / 65536.0;
+        case 'd':
+            return std::bit_cast<double>(readU64BE(p));
+        case 'j':
+            return double(int64_t(readU64BE(p)));
+        case 'J':
+            return double(readU64BE(p));
+        case 'Q':
+            return double(int64_t(readU64BE(p))) / 4294967296.0;
+        default:
+            return 0;
     }
 }
 
@@ -71,7 +101,8 @@ std::vector<double> numbers(const Item& item) {
     const std::size_t bytes = elementBytes(item.type);
     std::vector<double> out;
     if (bytes == 0) return out;
-    for (std::size_t at = 0; at + bytes <= item.data.size(); at += bytes) out.push_back(elementValue(item.type, &item.data[at]));
+    for (std::size_t at = 0; at + bytes <= item.data.size(); at += bytes)
+        out.push_back(elementValue(item.type, &item.data[at]));
     return out;
 }
 
@@ -222,8 +253,10 @@ void PayloadWalker::walk(std::span<const uint8_t> bytes, int depth) {
 
 void PayloadWalker::take(const Item& item, NestState& state, int depth, std::vector<std::size_t>& runsHere) {
     if (item.type == 0) {
-        if (depth + 1 < kMaxNesting) walk(item.data, depth + 1);
-        else intact_ = false;
+        if (depth + 1 < kMaxNesting)
+            walk(item.data, depth + 1);
+        else
+            intact_ = false;
     } else if (item.is("SCAL")) {
         state.scale = numbers(item);
     } else if (item.is("TYPE")) {

@@ -28,7 +28,9 @@ std::optional<std::array<uint8_t, N>> leadingBytes(SeekableFile& file, FileRange
     return out;
 }
 
-bool hasFourCC(const uint8_t* p, std::string_view name) { return std::string_view(reinterpret_cast<const char*>(p), 4) == name; }
+bool hasFourCC(const uint8_t* p, std::string_view name) {
+    return std::string_view(reinterpret_cast<const char*>(p), 4) == name;
+}
 
 std::optional<FileRange> findPath(SeekableFile& file, FileRange from, std::initializer_list<std::string_view> path) {
     std::optional<FileRange> at = from;
@@ -78,7 +80,8 @@ std::optional<TrackBoxes> findGpmfTrack(SeekableFile& file) {
 // `cap` hold entries: the count the box states is only an upper bound. The count is the last
 // word of the `headerBytes` before the entries.
 template <typename Take>
-void readTable(SeekableFile& file, FileRange box, uint64_t headerBytes, std::size_t entryBytes, uint64_t cap, Take take) {
+void readTable(SeekableFile& file, FileRange box, uint64_t headerBytes, std::size_t entryBytes, uint64_t cap,
+               Take take) {
     if (box.length < headerBytes) return;
     file.seek(box.location + headerBytes - 4);
     std::array<uint8_t, 4> countBytes{};
@@ -112,13 +115,14 @@ SampleTable readSampleTable(SeekableFile& file, FileRange stbl) {
     if (const std::optional<FileRange> stco = BoxChildren::find(file, stbl, "stco"))
         readTable(file, *stco, 8, 4, cap, [&](const uint8_t* e) { t.chunkOffsets.push_back(readU32BE(e)); });
     else if (const std::optional<FileRange> co64 = BoxChildren::find(file, stbl, "co64"))
-        readTable(file, *co64, 8, 8, cap, [&](const uint8_t* e) {
-            t.chunkOffsets.push_back(uint64_t(readU32BE(e)) << 32 | readU32BE(e + 4));
-        });
+        readTable(file, *co64, 8, 8, cap,
+                  [&](const uint8_t* e) { t.chunkOffsets.push_back(uint64_t(readU32BE(e)) << 32 | readU32BE(e + 4)); });
     if (const std::optional<FileRange> stsc = BoxChildren::find(file, stbl, "stsc"))
-        readTable(file, *stsc, 8, 12, cap, [&](const uint8_t* e) { t.chunkRuns.emplace_back(readU32BE(e), readU32BE(e + 4)); });
+        readTable(file, *stsc, 8, 12, cap,
+                  [&](const uint8_t* e) { t.chunkRuns.emplace_back(readU32BE(e), readU32BE(e + 4)); });
     if (const std::optional<FileRange> stts = BoxChildren::find(file, stbl, "stts"))
-        readTable(file, *stts, 8, 8, cap, [&](const uint8_t* e) { t.durationRuns.emplace_back(readU32BE(e), readU32BE(e + 4)); });
+        readTable(file, *stts, 8, 8, cap,
+                  [&](const uint8_t* e) { t.durationRuns.emplace_back(readU32BE(e), readU32BE(e + 4)); });
     return t;
 }
 
@@ -189,7 +193,8 @@ std::vector<GPSFix> GpmfTrack::readFixes(SeekableFile& file) {
         if (file.read(payload) != payload.size()) continue;
         GpmfFixes read = GpmfPayload::read(payload, sample.startSeconds, sample.durationSeconds);
         const std::size_t room = kMaxFixes - fixes.size();
-        fixes.insert(fixes.end(), read.fixes.begin(), read.fixes.begin() + std::ptrdiff_t(std::min(room, read.fixes.size())));
+        fixes.insert(fixes.end(), read.fixes.begin(),
+                     read.fixes.begin() + std::ptrdiff_t(std::min(room, read.fixes.size())));
         if (fixes.size() == kMaxFixes) break;
     }
     return fixes;
