@@ -2,6 +2,7 @@
 
 #include "BigEndian.h"
 #include "GPSBlockReader.h"
+#include "OtherTrackReaders.h"
 #include "TableStream.h"
 
 #include <algorithm>
@@ -219,7 +220,14 @@ GPSTrack GPSDataLoader::LoadTrack(const std::filesystem::path& url) {
         track.openError = errno;
         return track;
     }
-    return LoadTrack(*file);
+    GPSTrack track = LoadTrack(*file);
+    // The camera blocks come first: an index claims the movie even empty, the sound chunks only
+    // with blocks after them. Only then may another reader claim it.
+    const bool blocksClaim = track.layout == GPSLayout::Index || !track.samples.empty();
+    if (!blocksClaim) {
+        if (std::optional<GPSTrack> other = readOtherTrack(*file, url)) return std::move(*other);
+    }
+    return track;
 }
 
 std::vector<GPSData> GPSDataLoader::LoadGPSDataList(const std::filesystem::path& url, float* maxSpeed) {

@@ -2,7 +2,7 @@
 // when the fixes break one of their rules. Seeds: tests/fuzz/gpmf-seeds (camera payloads and a
 // small movie); dictionary: gpmf.dict. For example:
 //   gps_gpmf_fuzzer -max_total_time=10 -dict=tests/fuzz/gpmf.dict CORPUS tests/fuzz/gpmf-seeds
-#include "FixesPerSecond.h"
+#include "FixSamples.h"
 #include "GpmfPayload.h"
 #include "GpmfTrack.h"
 
@@ -52,6 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     const std::vector<GPSFix> fixes = GpmfTrack::readFixes(file);
     require(fixes.size() <= GpmfTrack::kMaxFixes && fixes.size() <= size / 5, "the track stays within its ceilings");
     for (const GPSFix& fix : fixes) requirePlaceable(fix);
-    require(firstFixEachSecond(fixes).size() <= fixes.size(), "thinning never adds fixes");
+    // One sample a second of a movie no longer than its fixes' last second.
+    require(samplesFromFixes(fixes, 0).size() <= 1u << 18, "the samples stay within their ceiling");
     return 0;
 }

@@ -1,6 +1,5 @@
 // The metadata track of a real camera's movie against exiftool's reading, and built movies for
 // the sample-table layouts and hostile tables.
-#include "FixesPerSecond.h"
 #include "GpmfBytes.h"
 #include "GpmfTrack.h"
 
@@ -150,24 +149,6 @@ TEST(GpmfTrack, CameraMovieAgreesWithExiftoolWhenPresent) {
             << "payload " << doc;
     }
     EXPECT_EQ(next, fixes.size());
-}
-
-GPSFix fixAt(std::optional<double> seconds, GPSFix::Quality quality, double latitude) {
-    GPSFix fix;
-    fix.movieSeconds = seconds;
-    fix.quality = quality;
-    fix.latitude = latitude;
-    return fix;
-}
-
-TEST(FixesPerSecond, FirstLockedFixOfEachSecond) {
-    using Q = GPSFix::Quality;
-    const std::vector<GPSFix> fixes = {fixAt(0.0, Q::NoFix, 1), fixAt(0.4, Q::Fix3D, 2), fixAt(0.9, Q::Fix3D, 3),
-                                       fixAt(1.5, Q::NoFix, 4), fixAt({}, Q::Fix3D, 5),  fixAt(3.2, Q::Unknown, 6),
-                                       fixAt(2.7, Q::Fix2D, 7), fixAt(2.1, Q::Fix2D, 8)};
-    std::vector<double> kept;
-    for (const GPSFix& fix : firstFixEachSecond(fixes)) kept.push_back(fix.latitude);
-    EXPECT_EQ(kept, (std::vector<double>{2, 7, 6}));
 }
 
 }  // namespace
