@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <tuple>
 
 namespace {
@@ -135,6 +137,35 @@ TEST(Program, ExtractReadsTheRouteOfBothLayouts) {
     const ProgramResult none = runTool({"extract", fixture("nogps.mov")});
     EXPECT_EQ(std::tie(none.exitCode, none.err, none.out),
               std::make_tuple(0, "", "{\"maxSpeed\": 0, \"samples\": []}\n"));
+}
+
+// The readers beyond the camera blocks, each named by the probe: a GPMF movie from a real action
+// camera, and a movie without blocks with an NMEA or a GPX file beside it. Of the sidecars only the
+// points within the clip's ten seconds count.
+TEST(Program, ProbeAndExtractReadGpmfAndSidecars) {
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "dashtrack-sidecar-test";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+    for (const char* name : {"nmea.mov", "gpx.mov"})
+        std::filesystem::copy_file(fixture("nogps.mov"), folder / name);
+    // nogps.mov was made from 2016-12-31 23:59:55 for ten seconds; one sentence is from the day before.
+    std::ofstream(folder / "nmea.NMEA") << "$GPRMC,235954.00,A,2217.8920,N,11410.3230,E,10.0,0.0,301216,,,A*66\r\n"
+                                           "$GPRMC,235957.00,A,2217.8920,N,11410.3230,E,10.0,0.0,311216,,,A*64\r\n";
+    std::ofstream(folder / "gpx.gpx") << R"(<gpx version="1.1"><trk><trkseg>
+        <trkpt lat="-22.5" lon="-114.25"><time>2017-01-01T00:00:01Z</time></trkpt>
+        <trkpt lat="1" lon="1"><time>2017-01-02T00:00:01Z</time></trkpt></trkseg></trk></gpx>)";
+    const std::string gpmf = std::string(DASHTRACK_CAMERA_DIR) + "/max-heromode.mp4";
+    const ProgramResult probe = runTool({"probe", gpmf, (folder / "nmea.mov").string(), (folder / "gpx.mov").string()});
+    EXPECT_EQ(probe.exitCode, 0);
+    EXPECT_EQ(lines(probe.out), (std::vector<std::string>{gpmf + "\tmovie\tgpmf\t-\t10",
+                                                          (folder / "nmea.mov").string() + "\tmovie\tnmea-sidecar\t-\t10",
+                                                          (folder / "gpx.mov").string() + "\tmovie\tgpx-sidecar\t-\t10"}));
+    const ProgramResult extract = runTool({"extract", "--format", "csv", (folder / "gpx.mov").string()});
+    const std::vector<std::string> rows = lines(extract.out);
+    ASSERT_EQ(rows.size(), 11u);
+    // Second 6 of the clip is the GPX point's; the seconds before it hold it, flagged as no fix.
+    EXPECT_EQ(rows[6], "2017-01-01T00:00:01,01/01/17,00:00:01,-22.50000,-114.25000,00.00");
+    std::filesystem::remove_all(folder);
 }
 
 }  // namespace
