@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-std::optional<GPSDATA> GPSBlockReader::recordAt(std::span<const uint64_t> offsets) {
-    const uint64_t offset = offsets.front();
+std::optional<GPSDATA> GPSBlockReader::recordAt(const BlockOffsets& offsets) {
+    const uint64_t offset = offsets[0];
     // Offsets a few blocks apart land in different slots; a repeated offset finds its own.
     Slot& slot = slots_[(offset / kGPSBlockSize) % kRememberedBlocks];
     if (slot.offset == offset) return slot.record;
@@ -25,12 +25,13 @@ bool GPSBlockReader::spanHolds(uint64_t offset) const {
     return offset >= spanStart_ && offset - spanStart_ + kGPSBlockSize <= span_.size();
 }
 
-void GPSBlockReader::readSpan(std::span<const uint64_t> offsets) {
-    const uint64_t start = offsets.front();
+void GPSBlockReader::readSpan(const BlockOffsets& offsets) {
+    const uint64_t start = offsets[0];
     uint64_t end = start + kGPSBlockSize;
     // Only offsets that follow in order, close by, join: a table's entries normally ascend, and
     // the span stays within one bounded read whatever the table holds.
-    for (const uint64_t next : offsets.subspan(1)) {
+    for (std::size_t i = 1; i < offsets.size(); ++i) {
+        const uint64_t next = offsets[i];
         if (next < start || next > end + kNeighbourGap || next + kGPSBlockSize - start > kSpanBytes) break;
         end = std::max(end, next + kGPSBlockSize);
     }

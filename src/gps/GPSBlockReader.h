@@ -3,6 +3,7 @@
 // and the last few blocks are remembered, so that a table whose entries point at the same places
 // again and again costs no further reads.
 
+#include "BlockOffsets.h"
 #include "GPSRecord.h"
 #include "SeekableFile.h"
 
@@ -10,17 +11,16 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <vector>
 
 class GPSBlockReader {
 public:
     explicit GPSBlockReader(SeekableFile& file) : file_(file) {}
 
-    // The raw record of the block at offsets.front(); absent when the bytes there are no GPS block
+    // The raw record of the block at offsets[0]; absent when the bytes there are no GPS block
     // header or the file does not hold the whole block. The offsets after it are those the caller
     // will ask for next, in order: close neighbours among them arrive in the same read.
-    std::optional<GPSDATA> recordAt(std::span<const uint64_t> offsets);
+    std::optional<GPSDATA> recordAt(const BlockOffsets& offsets);
 
     // Reads that went to the file; blocks found in memory are not counted.
     uint64_t fileReads() const { return fileReads_; }
@@ -37,8 +37,8 @@ private:
         std::optional<GPSDATA> record;
     };
 
-    // Reads from offsets.front() through the last of its close, ascending neighbours.
-    void readSpan(std::span<const uint64_t> offsets);
+    // Reads from offsets[0] through the last of its close, ascending neighbours.
+    void readSpan(const BlockOffsets& offsets);
     bool spanHolds(uint64_t offset) const;
 
     SeekableFile& file_;

@@ -40,11 +40,11 @@ class TrackBuilder {
 public:
     TrackBuilder(SeekableFile& file, GPSTrack& track) : blocks_(file), track_(track) {}
 
-    // Reads the 92-byte block at offsets.front(); the rest are the offsets to come, which lets
-    // close neighbours be read together. A block that fails the header test or that the file does
+    // Reads the 92-byte block at offsets[0]; the rest are the offsets to come, which lets close
+    // neighbours be read together. A block that fails the header test or that the file does
     // not hold in full is skipped.
     // True when the block was accepted.
-    bool addBlockAt(std::span<const uint64_t> offsets, bool isMP4) {
+    bool addBlockAt(const BlockOffsets& offsets, bool isMP4) {
         const std::optional<GPSDATA> raw = blocks_.recordAt(offsets);
         if (!raw) return false;
         GPSData sample;
@@ -61,13 +61,12 @@ public:
     void addBlocksFrom(TableStream& table, uint64_t distance, bool isMP4) {
         const std::size_t stride = table.entryBytes();
         for (std::span<const uint8_t> run = table.nextRun(); !run.empty(); run = table.nextRun()) {
-            offsets_.clear();
-            for (std::size_t at = 0; at < run.size(); at += stride)
-                offsets_.push_back(uint64_t(readU32BE(run.data() + at)) + distance);
-            for (std::size_t i = 0; i < offsets_.size(); ++i) {
+            const uint8_t* const runEnd = run.data() + run.size();
+            for (const uint8_t* entry = run.data(); entry < runEnd; entry += stride) {
+                const uint64_t offset = uint64_t(readU32BE(entry)) + distance;
                 // A table that names one place over and over must cost next to nothing per entry.
-                if (offsets_[i] == lastRejected_) continue;
-                if (!addBlockAt(std::span(offsets_).subspan(i), isMP4)) lastRejected_ = offsets_[i];
+                if (offset == lastRejected_) continue;
+                if (!addBlockAt(BlockOffsets({entry, runEnd}, stride, distance), isMP4)) lastRejected_ = offset;
                 if (full()) return;
             }
         }
@@ -78,7 +77,6 @@ public:
 private:
     GPSBlockReader blocks_;
     GPSTrack& track_;
-    std::vector<uint64_t> offsets_;  // one run of the table, as file offsets of blocks
     double max_ = 0.0;
     uint64_t lastRejected_ = UINT64_MAX;  // no block lies there: table offsets are 32-bit
 };
