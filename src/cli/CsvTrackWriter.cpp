@@ -2,59 +2,69 @@
 
 #include "SampleTime.h"
 
-#include <ostream>
-
 namespace {
 
 struct Column {
     std::string_view header;
     bool namesUnit;  // the header says the unit, so a file read later still tells what it holds
-    std::string (*value)(const GPSData& sample, SpeedUnit unit);
+    void (*append)(std::string& out, const GPSData& sample, SpeedUnit unit);  // the text before quoting
 };
 
 constexpr Column kColumns[] = {
-    {"datetime", false, [](const GPSData& s, SpeedUnit) { return isoDateTime(s.data().rmcinfo).value_or(""); }},
-    {"date", false, [](const GPSData& s, SpeedUnit) { return s.DateText(); }},
-    {"time", false, [](const GPSData& s, SpeedUnit) { return s.TimeText(); }},
-    {"latitude", false, [](const GPSData& s, SpeedUnit) { return s.LatitudeText(); }},
-    {"longitude", false, [](const GPSData& s, SpeedUnit) { return s.LongitudeText(); }},
-    {"speed", true, [](const GPSData& s, SpeedUnit unit) { return speedTextIn(unit, s); }},
+    {"datetime", false, [](std::string& o, const GPSData& s, SpeedUnit) { appendIsoDateTime(o, s.data().rmcinfo); }},
+    {"date", false, [](std::string& o, const GPSData& s, SpeedUnit) { o += s.DateText(); }},
+    {"time", false, [](std::string& o, const GPSData& s, SpeedUnit) { o += s.TimeText(); }},
+    {"latitude", false, [](std::string& o, const GPSData& s, SpeedUnit) { o += s.LatitudeText(); }},
+    {"longitude", false, [](std::string& o, const GPSData& s, SpeedUnit) { o += s.LongitudeText(); }},
+    {"speed", true, [](std::string& o, const GPSData& s, SpeedUnit unit) { o += speedTextIn(unit, s); }},
 };
 
 }  // namespace
 
-std::string CsvTrackWriter::field(std::string_view text) {
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"') quoted += '"';
-        quoted += c;
+void CsvTrackWriter::appendField(std::string& out, std::string_view text) {
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+        out += text;
+        return;
     }
-    quoted += '"';
-    return quoted;
+    out += '"';
+    for (const char c : text) {
+        if (c == '"') out += '"';
+        out += c;
+    }
+    out += '"';
 }
 
 void CsvTrackWriter::begin() {
-    std::string row = severalFiles_ ? "file" : "";
+    std::string& row = out_.text();
+    if (severalFiles_) row += "file";
     for (const Column& column : kColumns) {
-        if (!row.empty()) row += ',';
+        if (severalFiles_ || &column != kColumns) row += ',';
         row += column.header;
         if (column.namesUnit) row += unit_ == SpeedUnit::KMH ? "_kmh" : "_mph";
     }
-    out_ << row << '\n';
+    row += '\n';
 }
 
 void CsvTrackWriter::file(const NamedTrack& named) {
     // File names are written as the bytes they are: CSV declares no encoding to keep to.
-    const std::string fileField = severalFiles_ ? field(named.file) + "," : "";
+    std::string fileField;
+    if (severalFiles_) {
+        appendField(fileField, named.file);
+        fileField += ',';
+    }
+    std::string cell;
     for (const GPSData& sample : named.track.samples) {
-        std::string row = fileField;
+        std::string& row = out_.text();
+        row += fileField;
         for (const Column& column : kColumns) {
             if (&column != kColumns) row += ',';
-            row += field(column.value(sample, unit_));
+            cell.clear();
+            column.append(cell, sample, unit_);
+            appendField(row, cell);
         }
-        out_ << row << '\n';
+        row += '\n';
+        out_.flushWhenFull();
     }
 }
 
-void CsvTrackWriter::end() {}
+void CsvTrackWriter::end() { out_.flush(); }

@@ -2,6 +2,7 @@
 // The track as a table for spreadsheets: one row per sample, the texts as the player shows them.
 
 #include "SpeedUnit.h"
+#include "OutputBuffer.h"
 #include "TrackWriter.h"
 
 #include <iosfwd>
@@ -19,11 +20,11 @@ public:
     void file(const NamedTrack& track) override;
     void end() override;
 
-    // The field as it stands in a row: quoted when it holds a comma, quote or line break.
-    static std::string field(std::string_view text);
-
 private:
-    std::ostream& out_;
+    // The field as it stands in a row: quoted when it holds a comma, quote or line break.
+    static void appendField(std::string& out, std::string_view text);
+
+    OutputBuffer out_;
     SpeedUnit unit_;
     bool severalFiles_;
 };

@@ -4,38 +4,59 @@
 #include "MapPosition.h"
 #include "SampleTime.h"
 
-#include <functional>
-#include <ostream>
 #include <string>
 #include <vector>
 
 namespace {
 
-std::string position(const GPSData& sample) {
-    return "[" + jsonNumber(sample.Longitude()) + ", " + jsonNumber(sample.Latitude()) + "]";
+void appendPosition(std::string& out, const GPSData& sample) {
+    out += '[';
+    appendJsonNumber(out, sample.Longitude());
+    out += ", ";
+    appendJsonNumber(out, sample.Latitude());
+    out += ']';
 }
 
-std::string jsonTime(const GPSData& sample) {
-    const auto time = isoDateTime(sample.data().rmcinfo);
-    return time ? jsonString(*time) : "null";
-}
-
-std::string jsonArray(const std::vector<const GPSData*>& samples,
-                      const std::function<std::string(const GPSData&)>& item) {
-    std::string array = "[";
-    for (const GPSData* sample : samples) {
-        if (array.size() > 1) array += ", ";
-        array += item(*sample);
+void appendJsonTime(std::string& out, const GPSData& sample) {
+    if (!hasCalendarTime(sample.data().rmcinfo)) {
+        out += "null";
+        return;
     }
-    return array + "]";
+    out += '"';
+    appendIsoDateTime(out, sample.data().rmcinfo);  // digits and separators: nothing to escape
+    out += '"';
 }
 
-std::string geometry(const std::vector<const GPSData*>& drawn) {
-    if (drawn.empty()) return "null";
-    if (drawn.size() == 1) return "{\"type\": \"Point\", \"coordinates\": " + position(*drawn.front()) + "}";
-    std::string line = "{\"type\": \"LineString\", \"coordinates\": [";
-    for (std::size_t i = 0; i < drawn.size(); ++i) line += (i == 0 ? "\n  " : ",\n  ") + position(*drawn[i]);
-    return line + "\n]}";
+// A JSON array of one item per drawn sample, on one line.
+template <typename AppendItem>
+void appendJsonArray(OutputBuffer& out, const std::vector<const GPSData*>& samples, AppendItem appendItem) {
+    out << '[';
+    for (const GPSData* sample : samples) {
+        if (sample != samples.front()) out << ", ";
+        appendItem(out.text(), *sample);
+        out.flushWhenFull();
+    }
+    out << ']';
+}
+
+void appendGeometry(OutputBuffer& out, const std::vector<const GPSData*>& drawn) {
+    if (drawn.empty()) {
+        out << "null";
+        return;
+    }
+    if (drawn.size() == 1) {
+        out << "{\"type\": \"Point\", \"coordinates\": ";
+        appendPosition(out.text(), *drawn.front());
+        out << '}';
+        return;
+    }
+    out << "{\"type\": \"LineString\", \"coordinates\": [";
+    for (const GPSData* sample : drawn) {
+        out << (sample == drawn.front() ? "\n  " : ",\n  ");
+        appendPosition(out.text(), *sample);
+        out.flushWhenFull();
+    }
+    out << "\n]}";
 }
 
 }  // namespace
@@ -47,12 +68,24 @@ void GeoJsonTrackWriter::file(const NamedTrack& named) {
     for (const GPSData& sample : named.track.samples)
         if (hasMapPosition(sample)) drawn.push_back(&sample);
 
-    out_ << (written_++ > 0 ? ",\n" : "\n") << "{\"type\": \"Feature\", \"properties\": {"
-         << "\"file\": " << jsonString(named.file) << ", \"speedUnit\": " << jsonString(speedUnitName(unit_))
-         << ", \"maxSpeed\": " << jsonNumber(maximumIn(unit_, named.track.maxSpeed))
-         << ", \"times\": " << jsonArray(drawn, jsonTime)
-         << ", \"speeds\": " << jsonArray(drawn, [this](const GPSData& s) { return jsonNumber(speedIn(unit_, s)); })
-         << "},\n \"geometry\": " << geometry(drawn) << "}";
+    std::string& text = out_.text();
+    text += written_++ > 0 ? ",\n" : "\n";
+    text += "{\"type\": \"Feature\", \"properties\": {\"file\": ";
+    appendJsonString(text, named.file);
+    text += ", \"speedUnit\": ";
+    appendJsonString(text, speedUnitName(unit_));
+    text += ", \"maxSpeed\": ";
+    appendJsonNumber(text, maximumIn(unit_, named.track.maxSpeed));
+    text += ", \"times\": ";
+    appendJsonArray(out_, drawn, appendJsonTime);
+    out_ << ", \"speeds\": ";
+    appendJsonArray(out_, drawn, [this](std::string& out, const GPSData& s) { appendJsonNumber(out, speedIn(unit_, s)); });
+    out_ << "},\n \"geometry\": ";
+    appendGeometry(out_, drawn);
+    out_ << '}';
 }
 
-void GeoJsonTrackWriter::end() { out_ << (written_ > 0 ? "\n]}\n" : "]}\n"); }
+void GeoJsonTrackWriter::end() {
+    out_ << (written_ > 0 ? "\n]}\n" : "]}\n");
+    out_.flush();
+}

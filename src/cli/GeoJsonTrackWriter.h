@@ -2,6 +2,7 @@
 // The track as GeoJSON (RFC 7946) for web maps and GIS tools.
 
 #include "SpeedUnit.h"
+#include "OutputBuffer.h"
 #include "TrackWriter.h"
 
 #include <cstddef>
@@ -19,7 +20,7 @@ public:
     void end() override;
 
 private:
-    std::ostream& out_;
+    OutputBuffer out_;
     SpeedUnit unit_;
     std::size_t written_ = 0;
 };

@@ -7,25 +7,36 @@
 #include "XmlText.h"
 
 #include <cmath>
-#include <ostream>
 
 namespace {
 
 // The stored speed is in miles per hour; a mile is exactly 1609.344 m.
 constexpr double kMetresPerSecondPerMPH = 0.44704;
 
-void writePoint(std::ostream& out, const GPSData& sample, SpeedUnit unit) {
-    out << "      <trkpt lat=\"" << shortestDecimal(sample.Latitude()) << "\" lon=\""
-        << shortestDecimal(sample.Longitude()) << "\">\n";
-    if (const auto time = isoDateTime(sample.data().rmcinfo)) out << "        <time>" << *time << "</time>\n";
-    out << "        <desc>" << xmlEscaped(speedTextIn(unit, sample) + " " + speedUnitName(unit)) << "</desc>\n";
+void appendPoint(std::string& out, const GPSData& sample, SpeedUnit unit, std::string_view unitName) {
+    out += "      <trkpt lat=\"";
+    appendShortestDecimal(out, sample.Latitude());
+    out += "\" lon=\"";
+    appendShortestDecimal(out, sample.Longitude());
+    out += "\">\n";
+    if (hasCalendarTime(sample.data().rmcinfo)) {
+        out += "        <time>";
+        appendIsoDateTime(out, sample.data().rmcinfo);
+        out += "</time>\n";
+    }
+    out += "        <desc>";
+    appendXmlEscaped(out, speedTextIn(unit, sample));
+    out += ' ';
+    appendXmlEscaped(out, unitName);
+    out += "</desc>\n";
     // The extension's schema allows no negative speed; a damaged record's speed is left out.
     const float metresPerSecond = float(double(sample.SpeedMPH()) * kMetresPerSecondPerMPH);
     if (std::isfinite(metresPerSecond) && metresPerSecond >= 0.0f) {
-        out << "        <extensions><gpxtpx:TrackPointExtension><gpxtpx:speed>" << shortestDecimal(metresPerSecond)
-            << "</gpxtpx:speed></gpxtpx:TrackPointExtension></extensions>\n";
+        out += "        <extensions><gpxtpx:TrackPointExtension><gpxtpx:speed>";
+        appendShortestDecimal(out, metresPerSecond);
+        out += "</gpxtpx:speed></gpxtpx:TrackPointExtension></extensions>\n";
     }
-    out << "      </trkpt>\n";
+    out += "      </trkpt>\n";
 }
 
 }  // namespace
@@ -43,14 +54,23 @@ void GpxTrackWriter::begin() {
 }
 
 void GpxTrackWriter::file(const NamedTrack& named) {
-    out_ << "  <trk>\n"
-         << "    <name>" << xmlEscaped(named.file) << "</name>\n"
-         << "    <desc>" << xmlEscaped(trackSummary(named.track, unit_)) << "</desc>\n"
-         << "    <trkseg>\n";
-    for (const GPSData& sample : named.track.samples)
-        if (hasMapPosition(sample)) writePoint(out_, sample, unit_);
+    std::string& text = out_.text();
+    text += "  <trk>\n    <name>";
+    appendXmlEscaped(text, named.file);
+    text += "</name>\n    <desc>";
+    appendXmlEscaped(text, trackSummary(named.track, unit_));
+    text += "</desc>\n    <trkseg>\n";
+    const std::string unitName = speedUnitName(unit_);
+    for (const GPSData& sample : named.track.samples) {
+        if (!hasMapPosition(sample)) continue;
+        appendPoint(out_.text(), sample, unit_, unitName);
+        out_.flushWhenFull();
+    }
     out_ << "    </trkseg>\n"
-         << "  </trk>\n";
+            "  </trk>\n";
 }
 
-void GpxTrackWriter::end() { out_ << "</gpx>\n"; }
+void GpxTrackWriter::end() {
+    out_ << "</gpx>\n";
+    out_.flush();
+}

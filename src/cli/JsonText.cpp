@@ -22,11 +22,23 @@ constexpr std::array<std::pair<char32_t, std::string_view>, 7> kShortEscapes{{
     {U'\t', "\\t"},
 }};
 
+// ASCII that stands in a JSON string as it is: most texts are nothing else.
+bool standsAsIs(char byte) {
+    const auto c = static_cast<unsigned char>(byte);
+    return c >= 0x20 && c < 0x80 && c != '"' && c != '\\';
+}
+
 }  // namespace
 
-std::string jsonString(std::string_view text) {
-    std::string out = "\"";
+void appendJsonString(std::string& out, std::string_view text) {
+    out += '"';
     for (std::size_t at = 0; at < text.size();) {
+        const std::size_t plainEnd =
+            std::size_t(std::find_if_not(text.begin() + std::ptrdiff_t(at), text.end(), standsAsIs) - text.begin());
+        out.append(text.substr(at, plainEnd - at));
+        at = plainEnd;
+        if (at == text.size()) break;
+
         const Utf8Char c = nextUtf8Char(text, at);
         at += c.length;
         const auto escape = std::find_if(kShortEscapes.begin(), kShortEscapes.end(),
@@ -42,10 +54,23 @@ std::string jsonString(std::string_view text) {
         }
     }
     out += '"';
+}
+
+void appendJsonNumber(std::string& out, float value) {
+    if (std::isfinite(value))
+        appendShortestNumber(out, value);
+    else
+        out += "null";
+}
+
+std::string jsonString(std::string_view text) {
+    std::string out;
+    appendJsonString(out, text);
     return out;
 }
 
 std::string jsonNumber(float value) {
-    if (!std::isfinite(value)) return "null";
-    return shortestNumber(value);
+    std::string out;
+    appendJsonNumber(out, value);
+    return out;
 }

@@ -1,48 +1,45 @@
 #include "JsonTrackWriter.h"
 
 #include "JsonText.h"
+#include "NumberText.h"
 
-#include <ostream>
 #include <string>
 
 namespace {
 
 struct SampleMember {
     std::string_view name;
-    std::string (*value)(const GPSData& sample);  // already spelt as JSON
+    void (*append)(std::string& out, const GPSData& sample);  // spelt as JSON
 };
-
-std::string number(uint32_t value) { return std::to_string(value); }
 
 constexpr SampleMember kSampleMembers[] = {
-    {"latitude", [](const GPSData& s) { return jsonNumber(s.Latitude()); }},
-    {"longitude", [](const GPSData& s) { return jsonNumber(s.Longitude()); }},
-    {"speed", [](const GPSData& s) { return jsonNumber(s.SpeedMPH()); }},
-    {"speedText", [](const GPSData& s) { return jsonString(s.SpeedMPHText()); }},
-    {"speedKMHText", [](const GPSData& s) { return jsonString(s.SpeedKMHText()); }},
-    {"latitudeText", [](const GPSData& s) { return jsonString(s.LatitudeText()); }},
-    {"longitudeText", [](const GPSData& s) { return jsonString(s.LongitudeText()); }},
-    {"dateText", [](const GPSData& s) { return jsonString(s.DateText()); }},
-    {"timeText", [](const GPSData& s) { return jsonString(s.TimeText()); }},
-    {"year", [](const GPSData& s) { return number(s.data().rmcinfo.Year); }},
-    {"month", [](const GPSData& s) { return number(s.data().rmcinfo.Month); }},
-    {"day", [](const GPSData& s) { return number(s.data().rmcinfo.Day); }},
-    {"hour", [](const GPSData& s) { return number(s.data().rmcinfo.Hour); }},
-    {"minute", [](const GPSData& s) { return number(s.data().rmcinfo.Minute); }},
-    {"second", [](const GPSData& s) { return number(s.data().rmcinfo.Second); }},
+    {"latitude", [](std::string& o, const GPSData& s) { appendJsonNumber(o, s.Latitude()); }},
+    {"longitude", [](std::string& o, const GPSData& s) { appendJsonNumber(o, s.Longitude()); }},
+    {"speed", [](std::string& o, const GPSData& s) { appendJsonNumber(o, s.SpeedMPH()); }},
+    {"speedText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.SpeedMPHText()); }},
+    {"speedKMHText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.SpeedKMHText()); }},
+    {"latitudeText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.LatitudeText()); }},
+    {"longitudeText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.LongitudeText()); }},
+    {"dateText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.DateText()); }},
+    {"timeText", [](std::string& o, const GPSData& s) { appendJsonString(o, s.TimeText()); }},
+    {"year", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Year); }},
+    {"month", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Month); }},
+    {"day", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Day); }},
+    {"hour", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Hour); }},
+    {"minute", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Minute); }},
+    {"second", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Second); }},
 };
 
-std::string sampleObject(const GPSData& sample) {
-    std::string object = "{";
+void appendSampleObject(std::string& out, const GPSData& sample) {
+    out += '{';
     for (const SampleMember& member : kSampleMembers) {
-        if (object.size() > 1) object += ", ";
-        object += '"';
-        object += member.name;
-        object += "\": ";
-        object += member.value(sample);
+        if (&member != kSampleMembers) out += ", ";
+        out += '"';
+        out += member.name;
+        out += "\": ";
+        member.append(out, sample);
     }
-    object += '}';
-    return object;
+    out += '}';
 }
 
 }  // namespace
@@ -58,11 +55,22 @@ void JsonTrackWriter::file(const NamedTrack& named) {
         out_ << '\n';
     ++written_;
 
-    out_ << '{';
-    if (severalFiles_) out_ << "\"file\": " << jsonString(named.file) << ", ";
-    out_ << "\"maxSpeed\": " << jsonNumber(named.track.maxSpeed) << ", \"samples\": [";
+    std::string& text = out_.text();
+    text += '{';
+    if (severalFiles_) {
+        text += "\"file\": ";
+        appendJsonString(text, named.file);
+        text += ", ";
+    }
+    text += "\"maxSpeed\": ";
+    appendJsonNumber(text, named.track.maxSpeed);
+    text += ", \"samples\": [";
     const auto& samples = named.track.samples;
-    for (std::size_t i = 0; i < samples.size(); ++i) out_ << (i == 0 ? "\n  " : ",\n  ") << sampleObject(samples[i]);
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        out_.text() += i == 0 ? "\n  " : ",\n  ";
+        appendSampleObject(out_.text(), samples[i]);
+        out_.flushWhenFull();
+    }
     out_ << (samples.empty() ? "]}" : "\n]}");
 }
 
@@ -71,4 +79,5 @@ void JsonTrackWriter::end() {
         out_ << (written_ > 0 ? "\n]\n" : "]\n");
     else if (written_ > 0)
         out_ << '\n';
+    out_.flush();
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The full track as JSON: every stored value and every text the player shows, per sample.
 
+#include "OutputBuffer.h"
 #include "TrackWriter.h"
 
 #include <cstddef>
@@ -17,7 +18,7 @@ public:
     void end() override;
 
 private:
-    std::ostream& out_;
+    OutputBuffer out_;
     bool severalFiles_;
     std::size_t written_ = 0;
 };

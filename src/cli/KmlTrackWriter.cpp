@@ -6,40 +6,45 @@
 #include "TrackSummary.h"
 #include "XmlText.h"
 
-#include <optional>
-#include <ostream>
 #include <string>
 #include <vector>
 
 namespace {
 
-struct TrackPoint {
-    std::string when;
-    const GPSData* sample;
-};
-
-std::vector<TrackPoint> drawablePoints(const GPSTrack& track) {
-    std::vector<TrackPoint> points;
-    for (const GPSData& sample : track.samples) {
-        if (!hasMapPosition(sample)) continue;
-        if (std::optional<std::string> when = isoDateTime(sample.data().rmcinfo))
-            points.push_back({std::move(*when), &sample});
-    }
+// The samples a gx:Track can hold: a position on the map and a calendar time.
+std::vector<const GPSData*> drawablePoints(const GPSTrack& track) {
+    std::vector<const GPSData*> points;
+    for (const GPSData& sample : track.samples)
+        if (hasMapPosition(sample) && hasCalendarTime(sample.data().rmcinfo)) points.push_back(&sample);
     return points;
 }
 
-void writeTrack(std::ostream& out, const std::vector<TrackPoint>& points, SpeedUnit unit) {
+void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, SpeedUnit unit) {
     out << "      <gx:Track>\n";
-    for (const TrackPoint& point : points) out << "        <when>" << point.when << "</when>\n";
-    for (const TrackPoint& point : points) {
-        out << "        <gx:coord>" << shortestDecimal(point.sample->Longitude()) << ' '
-            << shortestDecimal(point.sample->Latitude()) << " 0</gx:coord>\n";
+    for (const GPSData* point : points) {
+        out << "        <when>";
+        appendIsoDateTime(out.text(), point->data().rmcinfo);
+        out << "</when>\n";
+        out.flushWhenFull();
+    }
+    for (const GPSData* point : points) {
+        std::string& text = out.text();
+        text += "        <gx:coord>";
+        appendShortestDecimal(text, point->Longitude());
+        text += ' ';
+        appendShortestDecimal(text, point->Latitude());
+        text += " 0</gx:coord>\n";
+        out.flushWhenFull();
     }
     out << "        <ExtendedData>\n"
            "          <SchemaData schemaUrl=\"#dashtrack\">\n"
            "            <gx:SimpleArrayData name=\"speed\">\n";
-    for (const TrackPoint& point : points)
-        out << "              <gx:value>" << xmlEscaped(speedTextIn(unit, *point.sample)) << "</gx:value>\n";
+    for (const GPSData* point : points) {
+        out << "              <gx:value>";
+        appendXmlEscaped(out.text(), speedTextIn(unit, *point));
+        out << "</gx:value>\n";
+        out.flushWhenFull();
+    }
     out << "            </gx:SimpleArrayData>\n"
            "          </SchemaData>\n"
            "        </ExtendedData>\n"
@@ -59,20 +64,24 @@ void KmlTrackWriter::begin() {
             "    </Style>\n"
             "    <Schema id=\"dashtrack\" name=\"dashtrack\">\n"
             "      <gx:SimpleArrayField name=\"speed\" type=\"float\">\n"
-            "        <displayName>"
-         << xmlEscaped("Speed (" + speedUnitName(unit_) + ")")
-         << "</displayName>\n"
+            "        <displayName>";
+    appendXmlEscaped(out_.text(), "Speed (" + speedUnitName(unit_) + ")");
+    out_ << "</displayName>\n"
             "      </gx:SimpleArrayField>\n"
             "    </Schema>\n";
 }
 
 void KmlTrackWriter::file(const NamedTrack& named) {
     out_ << "    <Placemark>\n"
-         << "      <name>" << xmlEscaped(named.file) << "</name>\n"
-         << "      <description>" << xmlEscaped(trackSummary(named.track, unit_)) << "</description>\n"
-         << "      <styleUrl>#route</styleUrl>\n";
+            "      <name>";
+    appendXmlEscaped(out_.text(), named.file);
+    out_ << "</name>\n"
+            "      <description>";
+    appendXmlEscaped(out_.text(), trackSummary(named.track, unit_));
+    out_ << "</description>\n"
+            "      <styleUrl>#route</styleUrl>\n";
     // A Placemark without geometry still lists the movie, with its summary.
-    const std::vector<TrackPoint> points = drawablePoints(named.track);
+    const std::vector<const GPSData*> points = drawablePoints(named.track);
     if (!points.empty()) writeTrack(out_, points, unit_);
     out_ << "    </Placemark>\n";
 }
@@ -80,4 +89,5 @@ void KmlTrackWriter::file(const NamedTrack& named) {
 void KmlTrackWriter::end() {
     out_ << "  </Document>\n"
             "</kml>\n";
+    out_.flush();
 }

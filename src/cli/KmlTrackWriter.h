@@ -2,6 +2,7 @@
 // The track as KML 2.2 for Google Earth and GIS tools.
 
 #include "SpeedUnit.h"
+#include "OutputBuffer.h"
 #include "TrackWriter.h"
 
 #include <iosfwd>
@@ -18,6 +19,6 @@ public:
     void end() override;
 
 private:
-    std::ostream& out_;
+    OutputBuffer out_;
     SpeedUnit unit_;
 };

@@ -20,12 +20,22 @@ constexpr std::array<std::pair<char32_t, std::string_view>, 7> kEscapes{{
 
 bool allowedInXml(char32_t c) { return c >= 0x20 && c != 0xFFFE && c != 0xFFFF; }
 
+// ASCII that stands in XML as it is: most texts are nothing else.
+bool standsAsIs(char byte) {
+    const auto c = static_cast<unsigned char>(byte);
+    return c >= 0x20 && c < 0x80 && c != '&' && c != '<' && c != '>' && c != '"';
+}
+
 }  // namespace
 
-std::string xmlEscaped(std::string_view text) {
-    std::string out;
-    out.reserve(text.size());
+void appendXmlEscaped(std::string& out, std::string_view text) {
     for (std::size_t at = 0; at < text.size();) {
+        const std::size_t plainEnd =
+            std::size_t(std::find_if_not(text.begin() + std::ptrdiff_t(at), text.end(), standsAsIs) - text.begin());
+        out.append(text.substr(at, plainEnd - at));
+        at = plainEnd;
+        if (at == text.size()) break;
+
         const Utf8Char c = nextUtf8Char(text, at);
         at += c.length;
         const auto escape = std::find_if(kEscapes.begin(), kEscapes.end(),
@@ -35,5 +45,11 @@ std::string xmlEscaped(std::string_view text) {
         else
             appendUtf8(out, allowedInXml(c.codePoint) ? c.codePoint : kReplacementCharacter);
     }
+}
+
+std::string xmlEscaped(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    appendXmlEscaped(out, text);
     return out;
 }

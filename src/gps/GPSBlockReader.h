@@ -1,7 +1,9 @@
 #pragma once
-// Reads the 92-byte GPS blocks of a track and remembers the last few it read, so that a table
-// whose entries point at the same places again and again costs no further reads.
+// Reads the 92-byte GPS blocks of a track. Blocks that lie close together are read in one call,
+// and the last few blocks are remembered, so that a table whose entries point at the same places
+// again and again costs no further reads.
 
+#include "BlockOffsets.h"
 #include "GPSRecord.h"
 #include "SeekableFile.h"
 
@@ -9,27 +11,39 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 class GPSBlockReader {
 public:
     explicit GPSBlockReader(SeekableFile& file) : file_(file) {}
 
-    // The raw record of the block at offset; absent when the bytes there are no GPS block header
-    // or the file does not hold the whole block.
-    std::optional<GPSDATA> recordAt(uint64_t offset);
+    // The raw record of the block at offsets[0]; absent when the bytes there are no GPS block
+    // header or the file does not hold the whole block. The offsets after it are those the caller
+    // will ask for next, in order: close neighbours among them arrive in the same read.
+    std::optional<GPSDATA> recordAt(const BlockOffsets& offsets);
 
     // Reads that went to the file; blocks found in memory are not counted.
     uint64_t fileReads() const { return fileReads_; }
 
     static constexpr std::size_t kRememberedBlocks = 64;
+    // Neighbours further apart than this cost more to copy than a read of their own.
+    static constexpr uint64_t kNeighbourGap = 4096;
+    // The most one read takes in, whatever the table says.
+    static constexpr std::size_t kSpanBytes = 64 * 1024;
 
 private:
     struct Slot {
-        uint64_t offset = UINT64_MAX;  // no block lies there: blocks start below 4 GiB
+        uint64_t offset = UINT64_MAX;  // no block lies there: a 32-bit entry plus a distance stays far below
         std::optional<GPSDATA> record;
     };
 
+    // Reads from offsets[0] through the last of its close, ascending neighbours.
+    void readSpan(const BlockOffsets& offsets);
+    bool spanHolds(uint64_t offset) const;
+
     SeekableFile& file_;
     std::array<Slot, kRememberedBlocks> slots_{};
+    std::vector<uint8_t> span_;  // the bytes of the last read, from spanStart_
+    uint64_t spanStart_ = 0;
     uint64_t fileReads_ = 0;
 };

@@ -2,28 +2,33 @@
 
 #include "GPSUtils.h"
 #include "HourShift.h"
+#include "PaddedNumberText.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
 
 namespace {
 
 constexpr float kKnotsFactor = 1.852f;  // the shown KM/H is the stored speed times this
 constexpr float kSpeedCap = 200.0f;
 
-// printf-style texts; the C locale is the program's numeric locale, so the separator is a full stop.
-std::string format(const char* pattern, double value) {
-    char text[64];
-    std::snprintf(text, sizeof text, pattern, value);
-    return text;
+// printf's "%0W.Pf" text; the separator is a full stop whatever the locale.
+std::string fixedText(double value, int width, int precision) {
+    std::array<char, kPaddedNumberTextMax> text;
+    return std::string(text.data(), writeZeroPaddedFixed(text, value, width, precision));
 }
 
+// printf's "%02d%c%02d%c%02d" of three fields; a field past INT_MAX shows negative, as there.
 std::string formatTriple(uint32_t a, uint32_t b, uint32_t c, char separator) {
-    char text[48];
-    std::snprintf(text, sizeof text, "%02d%c%02d%c%02d", int(a), separator, int(b), separator, int(c));
+    std::string text;
+    std::array<char, kPaddedNumberTextMax> field;
+    for (const uint32_t value : {a, b, c}) {
+        if (!text.empty()) text += separator;
+        text.append(field.data(), writeZeroPaddedInt(field, int(value), 2));
+    }
     return text;
 }
 
@@ -118,10 +123,10 @@ float GPSData::Latitude() const { return data_.rmcinfo.Latitude; }
 float GPSData::Longitude() const { return data_.rmcinfo.Longitude; }
 
 std::string GPSData::SpeedText() const { return useKMH() ? SpeedKMHText() : SpeedMPHText(); }
-std::string GPSData::SpeedMPHText() const { return format("%05.02f", double(SpeedMPH())); }
-std::string GPSData::SpeedKMHText() const { return format("%05.02f", double(SpeedKMH())); }
-std::string GPSData::LatitudeText() const { return format("%08.05f", double(Latitude())); }
-std::string GPSData::LongitudeText() const { return format("%08.05f", double(Longitude())); }
+std::string GPSData::SpeedMPHText() const { return fixedText(double(SpeedMPH()), 5, 2); }
+std::string GPSData::SpeedKMHText() const { return fixedText(double(SpeedKMH()), 5, 2); }
+std::string GPSData::LatitudeText() const { return fixedText(double(Latitude()), 8, 5); }
+std::string GPSData::LongitudeText() const { return fixedText(double(Longitude()), 8, 5); }
 
 std::string GPSData::DateText() const {
     const RMCINFO& f = data_.rmcinfo;

@@ -41,11 +41,12 @@ class TrackBuilder {
 public:
     TrackBuilder(SeekableFile& file, GPSTrack& track) : blocks_(file), track_(track) {}
 
-    // Reads the 92-byte block at offset; a block that fails the header test or that the file does
+    // Reads the 92-byte block at offsets[0]; the rest are the offsets to come, which lets close
+    // neighbours be read together. A block that fails the header test or that the file does
     // not hold in full is skipped.
     // True when the block was accepted.
-    bool addBlockAt(uint64_t offset, bool isMP4) {
-        const std::optional<GPSDATA> raw = blocks_.recordAt(offset);
+    bool addBlockAt(const BlockOffsets& offsets, bool isMP4) {
+        const std::optional<GPSDATA> raw = blocks_.recordAt(offsets);
         if (!raw) return false;
         GPSData sample;
         sample.SetData(*raw, isMP4);
@@ -61,11 +62,12 @@ public:
     void addBlocksFrom(TableStream& table, uint64_t distance, bool isMP4) {
         const std::size_t stride = table.entryBytes();
         for (std::span<const uint8_t> run = table.nextRun(); !run.empty(); run = table.nextRun()) {
-            for (std::size_t at = 0; at < run.size(); at += stride) {
-                const uint64_t offset = uint64_t(readU32BE(run.data() + at)) + distance;
+            const uint8_t* const runEnd = run.data() + run.size();
+            for (const uint8_t* entry = run.data(); entry < runEnd; entry += stride) {
+                const uint64_t offset = uint64_t(readU32BE(entry)) + distance;
                 // A table that names one place over and over must cost next to nothing per entry.
                 if (offset == lastRejected_) continue;
-                if (!addBlockAt(offset, isMP4)) lastRejected_ = offset;
+                if (!addBlockAt(BlockOffsets({entry, runEnd}, stride, distance), isMP4)) lastRejected_ = offset;
                 if (full()) return;
             }
         }

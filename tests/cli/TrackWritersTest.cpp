@@ -66,4 +66,27 @@ TEST(TrackWriters, DamagedRecordsNeverMakeAnInvalidDocument) {
     EXPECT_EQ(occurrences(render("gpx", {{"a.mov", track}}), "<gpxtpx:speed>"), 1u);
 }
 
+TEST(TrackWriters, LongTracksLoseNoTextWhereTheOutputIsHandedOn) {
+    // Enough samples that every format passes its output on in several pieces: each further
+    // identical sample must add the same bytes, and the document must end as a short one does.
+    constexpr std::size_t kLong = 4000;
+    const GPSData sample = fixedPointSample(225000000, 1142500000, 2778);
+    const struct {
+        const char* format;
+        const char* point;  // what each sample writes once
+    } cases[] = {
+        {"json", "\"latitude\""}, {"csv", "\n2016-"}, {"gpx", "<trkpt "}, {"kml", "<gx:coord>"}, {"geojson", "\n  ["},
+    };
+    for (const auto& c : cases) {
+        const std::string three = render(c.format, {{"a.mov", trackOf(std::vector<GPSData>(3, sample))}});
+        const std::string four = render(c.format, {{"a.mov", trackOf(std::vector<GPSData>(4, sample))}});
+        const std::string many = render(c.format, {{"a.mov", trackOf(std::vector<GPSData>(kLong, sample))}});
+        // The summaries of GPX and KML spell the count, which has more digits in the long one.
+        const std::size_t countDigits = occurrences(three, "3 samples") * (std::to_string(kLong).size() - 1);
+        EXPECT_EQ(many.size(), three.size() + (kLong - 3) * (four.size() - three.size()) + countDigits) << c.format;
+        EXPECT_EQ(occurrences(many, c.point), kLong) << c.format;
+        EXPECT_EQ(many.substr(many.size() - 40), four.substr(four.size() - 40)) << c.format;
+    }
+}
+
 }  // namespace

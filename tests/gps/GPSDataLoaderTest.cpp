@@ -1,9 +1,11 @@
+#include "GPSBlockReader.h"
 #include "GPSDataLoader.h"
 #include "SyntheticMovie.h"
 
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <optional>
@@ -120,6 +122,75 @@ TEST(IndexLayoutTest, MaximumSpeedIsTheLargestStoredSpeed) {
     EXPECT_FLOAT_EQ(load(indexMovie(28, {block(10), block(55.5f), block(30)})).maxSpeed, 55.5f);
     EXPECT_EQ(load(indexMovie(28, {block(0), block(0)})).maxSpeed, 0.0f);
     EXPECT_EQ(load(indexMovie(28, {block(-500), block(7)})).maxSpeed, 200.0f);  // the stored speed is capped
+}
+
+// Bytes in memory that keep a count of the reads starting at a GPS block.
+class BlockReadCountingFile final : public SeekableFile {
+public:
+    BlockReadCountingFile(Bytes bytes, std::vector<uint32_t> blockOffsets)
+        : file_(std::move(bytes)), size_(file_.size()), blockOffsets_(std::move(blockOffsets)) {}
+    uint64_t size() const override { return size_; }
+
+    std::size_t blockReads = 0;
+    std::size_t largestBlockRead = 0;
+
+protected:
+    std::size_t readAt(uint64_t offset, std::span<uint8_t> buffer) override {
+        if (std::find(blockOffsets_.begin(), blockOffsets_.end(), offset) != blockOffsets_.end()) {
+            ++blockReads;
+            largestBlockRead = std::max(largestBlockRead, buffer.size());
+        }
+        file_.seek(offset);
+        return file_.read(buffer);
+    }
+
+private:
+    MemoryFile file_;
+    uint64_t size_;
+    std::vector<uint32_t> blockOffsets_;
+};
+
+TEST(IndexLayoutTest, CloseBlocksListedInFileOrderShareAReadThatStaysBounded) {
+    constexpr std::size_t kClose = 40, kFar = GPSBlockReader::kNeighbourGap + 1;
+    const struct {
+        const char* what;
+        std::size_t blocks;
+        std::size_t gap;  // bytes between one block's end and the next one's start
+        std::vector<std::size_t> order;  // the index's entries as block numbers; empty: in file order
+        std::size_t expectedReads;
+    } cases[] = {
+        {"close, in file order", 5, kClose, {}, 1},
+        {"close, listed backwards", 5, kClose, {4, 3, 2, 1, 0}, 5},
+        {"far apart", 5, kFar, {}, 5},
+        {"close, listed again", 3, kClose, {0, 1, 0, 1, 2, 2, 0}, 1},
+        // 132 bytes a block: 496 fit in one bounded read.
+        {"more than one read holds", 2000, kClose, {}, 5},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const Bytes head = ftyp(20);
+        Bytes media;
+        std::vector<uint32_t> offsets;
+        for (std::size_t i = 0; i < c.blocks; ++i) {
+            media.insert(media.end(), c.gap, 0x55);
+            offsets.push_back(uint32_t(head.size() + 8 + media.size()));
+            const Bytes block = fixedBlock(int32_t(i + 1) * 10000);
+            media.insert(media.end(), block.begin(), block.end());
+        }
+        std::vector<std::size_t> order = c.order;
+        for (std::size_t i = 0; order.size() < c.blocks && c.order.empty(); ++i) order.push_back(i);
+        std::vector<uint32_t> listed;
+        for (const std::size_t i : order) listed.push_back(offsets[i]);
+        const Bytes movie =
+            concat({head, box("mdat", media), box("moov", box("gps ", gpsIndex(listed, uint32_t(listed.size()))))});
+        BlockReadCountingFile file(movie, offsets);
+        const GPSTrack track = GPSDataLoader::LoadTrack(file);
+        ASSERT_EQ(track.samples.size(), order.size());
+        for (std::size_t i = 0; i < order.size(); ++i)
+            EXPECT_EQ(track.samples[i].data().rmcinfo.Latitude, float((order[i] + 1) * 10000) / 10000000.0f) << i;
+        EXPECT_EQ(file.blockReads, c.expectedReads);
+        EXPECT_LE(file.largestBlockRead, GPSBlockReader::kSpanBytes);
+    }
 }
 
 TEST(SoundChunkLayoutTest, FindsABlockAfterEverySoundChunk) {
