@@ -1,6 +1,7 @@
 #include "ExtractCommand.h"
 
 #include "Diagnostics.h"
+#include "FixSamples.h"
 #include "TrackFormats.h"
 
 #include <ostream>
@@ -20,6 +21,8 @@ int runExtract(const Invocation& invocation, std::ostream& out, std::ostream& er
             status = kExitFileError;
             continue;
         }
+        // Formats with several fixes a second export every one; the player shows one a second.
+        if (!named.track.fixes.empty()) named.track.samples = everyFixAsSample(named.track.fixes);
         writer->file(named);
     }
     writer->end();

@@ -55,3 +55,15 @@ std::vector<GPSData> samplesFromFixes(std::span<const GPSFix> fixes, double dura
     }
     return samples;
 }
+
+std::vector<GPSData> everyFixAsSample(std::span<const GPSFix> fixes) {
+    std::vector<const GPSFix*> timed;
+    for (const GPSFix& fix : fixes)
+        if (fix.movieSeconds && std::isfinite(*fix.movieSeconds)) timed.push_back(&fix);
+    std::stable_sort(timed.begin(), timed.end(),
+                     [](const GPSFix* a, const GPSFix* b) { return *a->movieSeconds < *b->movieSeconds; });
+    std::vector<GPSData> samples;
+    samples.reserve(timed.size());
+    for (const GPSFix* fix : timed) samples.push_back(GPSData::fromFix(*fix));
+    return samples;
+}

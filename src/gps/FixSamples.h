@@ -15,3 +15,7 @@
 // marked as no fix ('V'), as does every second before the first fix. Fixes without a movie time
 // are passed over. Nothing when no fix has one.
 std::vector<GPSData> samplesFromFixes(std::span<const GPSFix> fixes, double durationSeconds);
+
+// Every fix with a movie time as a sample, in movie time order: what the exports write where the
+// player shows one a second.
+std::vector<GPSData> everyFixAsSample(std::span<const GPSFix> fixes);
