@@ -15,6 +15,7 @@ constexpr std::pair<GPSLayout, std::string_view> kLayoutNames[] = {
     {GPSLayout::Index, "index"},
     {GPSLayout::SoundChunk, "sound-chunk"},
     {GPSLayout::Gpmf, "gpmf"},
+    {GPSLayout::NmeaText, "nmea-text"},
     {GPSLayout::NmeaSidecar, "nmea-sidecar"},
     {GPSLayout::GpxSidecar, "gpx-sidecar"},
 };

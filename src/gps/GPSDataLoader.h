@@ -16,6 +16,7 @@ enum class GPSLayout {
     Index,       // a "gps " box lists the block offsets
     SoundChunk,  // one block after each sound chunk, at a fixed distance
     Gpmf,        // a timed metadata track of KLV records (action cameras)
+    NmeaText,    // NMEA sentences in a box of the movie
     NmeaSidecar, // NMEA sentences in a file beside the movie
     GpxSidecar,  // a GPX track beside the movie
 };

@@ -3,6 +3,7 @@
 #include "FixSamples.h"
 #include "GpmfTrack.h"
 #include "MovieDuration.h"
+#include "NmeaBoxTrack.h"
 #include "SidecarFiles.h"
 #include "SidecarMatch.h"
 
@@ -23,6 +24,25 @@ std::optional<GPSTrack> readGpmf(SeekableFile& movie, const std::filesystem::pat
     return trackFromFixes(GpmfTrack::readFixes(movie), durationOf(header), GPSLayout::Gpmf);
 }
 
+// Sentences kept in the movie belong to it: they are placed by the movie's creation time when
+// that is UTC and they fall in the clip; when they do not (many cameras write their local time
+// there), from the first sentence on, which the camera writes as it starts recording.
+std::optional<GPSTrack> readNmeaText(SeekableFile& movie, const std::filesystem::path& /*url*/,
+                                     const std::optional<MovieHeader>& header) {
+    std::vector<GPSFix> fixes = NmeaBoxTrack::readFixes(movie);
+    if (fixes.empty()) return std::nullopt;
+    const double duration = durationOf(header);
+    if (header && header->creationSeconds) {
+        std::vector<GPSFix> matched = matchFixesToClip(fixes, {double(*header->creationSeconds), duration});
+        if (!matched.empty()) return trackFromFixes(std::move(matched), duration, GPSLayout::NmeaText);
+    }
+    const auto first = std::find_if(fixes.begin(), fixes.end(), [](const GPSFix& fix) { return fix.clockSeconds; });
+    if (first == fixes.end()) return std::nullopt;
+    std::vector<GPSFix> placed = matchFixesToClip(fixes, {*first->clockSeconds, duration > 0 ? duration : 1e9});
+    if (placed.empty()) return std::nullopt;
+    return trackFromFixes(std::move(placed), duration, GPSLayout::NmeaText);
+}
+
 // A sidecar's fixes that fall within the clip, from the movie's creation time for its length. A
 // sidecar of another time claims nothing, so a later one may.
 std::optional<GPSTrack> readSidecar(SeekableFile& /*movie*/, const std::filesystem::path& url,
@@ -38,7 +58,7 @@ std::optional<GPSTrack> readSidecar(SeekableFile& /*movie*/, const std::filesyst
     return std::nullopt;
 }
 
-constexpr Reader kReaders[] = {readGpmf, readSidecar};
+constexpr Reader kReaders[] = {readGpmf, readNmeaText, readSidecar};
 
 }  // namespace
 

@@ -1,7 +1,7 @@
 #pragma once
 // The readers of the ways of storing a track other than the camera blocks, tried in this order
-// after the block reader has found nothing: a GPMF metadata track in the movie, then NMEA or GPX
-// files beside it with the same base name. Each says from the file's own boxes and the sidecars'
+// after the block reader has found nothing: a GPMF metadata track in the movie, NMEA sentences in
+// a box of the movie, then NMEA or GPX files beside it with the same base name. Each says from the file's own boxes and the sidecars'
 // contents, never from names alone, whether it can read the clip.
 
 #include "GPSDataLoader.h"

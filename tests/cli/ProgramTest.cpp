@@ -97,6 +97,10 @@ TEST(Program, ProbeTellsLayoutFormsAndCountOfEachFile) {
         {"chunk_scaled.mov", "movie\tsound-chunk\tscaled\t" + std::to_string(n)},
         {"chunk_fixed.mov", "movie\tsound-chunk\tfixed-point\t" + std::to_string(n)},
         {"nogps.mov", "movie\tnone\t-\t0"},
+        {"gpmf.mov", "movie\tgpmf\t-\t" + std::to_string(n)},
+        {"nmea_text.mov", "movie\tnmea-text\t-\t" + std::to_string(n)},
+        {"nmea_sidecar.mov", "movie\tnmea-sidecar\t-\t" + std::to_string(n)},
+        {"gpx_sidecar.mov", "movie\tgpx-sidecar\t-\t" + std::to_string(n)},
         {"route10.csv", "not-movie\tnone\t-\t0"},
     };
     std::vector<std::string> arguments{"probe"}, expected;

@@ -30,6 +30,8 @@ TEST(SamplegenProgram, RefusesWhatItCannotDoWithOneLineAndAStatus) {
     } cases[] = {
         {"--layout chunk --form mp4 " + kRoute + " " + out, 2, "--layout chunk cannot be combined with --form mp4"},
         {"--form gps " + kRoute + " " + out, 2, "--form: 'gps' is not one of"},
+        {"--track gpmf " + kRoute + " " + out, 2, "--track and --sidecar need --layout none"},
+        {"--layout none --sidecar kml " + kRoute + " " + out, 2, "--sidecar: 'kml' is not one of"},
         {"--size 321x180 " + kRoute + " " + out, 2, "width must be even"},
         {"--fps ten " + kRoute + " " + out, 2, "--fps: not a whole number"},
         {"--seconds 0 " + kRoute + " " + out, 2, "--seconds must be at least 1"},

@@ -31,6 +31,10 @@ const std::map<std::string_view, GPSRecordForm> kForms = {
     {"mp4", GPSRecordForm::MP4}, {"scaled", GPSRecordForm::Scaled}, {"fixed", GPSRecordForm::FixedPoint}};
 const std::map<std::string_view, GPSBlockLayout> kLayouts = {
     {"index", GPSBlockLayout::Index}, {"chunk", GPSBlockLayout::Chunk}, {"none", GPSBlockLayout::None}};
+const std::map<std::string_view, EmbeddedTrack> kTracks = {
+    {"gpmf", EmbeddedTrack::Gpmf}, {"nmea-text", EmbeddedTrack::NmeaText}, {"none", EmbeddedTrack::None}};
+const std::map<std::string_view, SidecarTrack> kSidecars = {
+    {"nmea", SidecarTrack::Nmea}, {"gpx", SidecarTrack::Gpx}, {"none", SidecarTrack::None}};
 
 void parseSize(std::string_view text, MovieOptions& o) {
     const auto x = text.find('x');
@@ -44,6 +48,8 @@ using ValueHandler = std::function<void(std::string_view value, MovieOptions&)>;
 const std::map<std::string_view, ValueHandler> kValueOptions = {
     {"--form", [](std::string_view v, MovieOptions& o) { o.form = parseChoice("--form", v, kForms); }},
     {"--layout", [](std::string_view v, MovieOptions& o) { o.layout = parseChoice("--layout", v, kLayouts); }},
+    {"--track", [](std::string_view v, MovieOptions& o) { o.track = parseChoice("--track", v, kTracks); }},
+    {"--sidecar", [](std::string_view v, MovieOptions& o) { o.sidecar = parseChoice("--sidecar", v, kSidecars); }},
     {"--size", parseSize},
     {"--fps", [](std::string_view v, MovieOptions& o) { o.fps = parseInteger<int>("--fps", v); }},
     {"--channels", [](std::string_view v, MovieOptions& o) { o.channels = parseInteger<int>("--channels", v); }},
@@ -119,6 +125,13 @@ Options:
   --form mp4|scaled|fixed     record form (default scaled); mp4 writes an ISO ftyp
   --layout index|chunk|none   "gps " index box, a block after every sound chunk, or no GPS
                               (default index; chunk needs --form scaled or fixed)
+  --track gpmf|nmea-text      also a track in the movie: a GPMF metadata track (ten GPS5 fixes
+                              a second, UTC from the movie's creation time), or NMEA sentences
+                              (RMC and GGA, one of each a second) in a top-level "free" box's
+                              "gps " child; needs --layout none
+  --sidecar nmea|gpx          also a track file beside the movie, OUTPUT's base name with .nmea
+                              or .gpx, one point a second from the movie's start to its end, in
+                              UTC from the movie's creation time; needs --layout none
   --size WxH                  picture size, even numbers (default 1280x720)
   --fps N                     frames per second (default 30)
   --channels N                sound channels, 16-bit PCM (default 1)

@@ -32,7 +32,7 @@ void writeMovieHeader(ByteWriter& out, const MovieDescription& movie) {
         out.zeros(10);
         writeMatrix(out);
         out.zeros(24);
-        out.u32(3);  // next track ID
+        out.u32(movie.gpmf ? 4 : 3);  // next track ID
     });
 }
 
@@ -196,6 +196,30 @@ void writeSoundTrack(ByteWriter& out, const MovieDescription& movie) {
     });
 }
 
+void writeGpmfTrack(ByteWriter& out, const MovieDescription& movie, const GpmfMetadata& gpmf) {
+    out.box("trak", [&] {
+        writeTrackHeader(out, movie, {3, movie.durationSeconds * kMovieTimescale, 0, 0, 0});
+        out.box("mdia", [&] {
+            writeMediaHeader(out, movie, kMovieTimescale, gpmf.samples.sampleCount * gpmf.samples.sampleDelta);
+            writeHandler(out, movie.brand, "meta");
+            out.box("minf", [&] {
+                out.fullBox("nmhd", 0, 0, [] {});
+                writeDataInformation(out);
+                out.box("stbl", [&] {
+                    out.fullBox("stsd", 0, 0, [&] {
+                        out.u32(1);
+                        out.box("gpmd", [&] {
+                            out.zeros(6);
+                            out.u16(1);  // data reference index
+                        });
+                    });
+                    writeSampleTableBoxes(out, gpmf.samples);
+                });
+            });
+        });
+    });
+}
+
 }  // namespace
 
 std::vector<uint8_t> fileTypeBox(FileBrand brand) {
@@ -220,6 +244,7 @@ std::vector<uint8_t> movieBox(const MovieDescription& movie) {
         writeMovieHeader(out, movie);
         writeVideoTrack(out, movie);
         writeSoundTrack(out, movie);
+        if (movie.gpmf) writeGpmfTrack(out, movie, *movie.gpmf);
         if (movie.gpsIndex) out.box("gps ", [&] { out.bytes(*movie.gpsIndex); });
     });
     return out.take();

@@ -1,6 +1,6 @@
 #pragma once
-// The file type box and the movie box (one picture track, one sound track, and optionally the
-// "gps " index) of the movies the generator writes.
+// The file type box and the movie box (one picture track, one sound track, and optionally a GPMF
+// metadata track and the "gps " index) of the movies the generator writes.
 
 #include "SampleTable.h"
 
@@ -27,6 +27,11 @@ struct SoundTrack {
     SampleTable samples;  // one sample per PCM frame
 };
 
+// A timed metadata track of GPMF payloads (handler "meta", sample entry "gpmd"), in milliseconds.
+struct GpmfMetadata {
+    SampleTable samples;
+};
+
 struct MovieDescription {
     FileBrand brand = FileBrand::QuickTime;
     uint32_t creationTime = 0;  // seconds since 1904-01-01 00:00:00 UTC
@@ -34,6 +39,7 @@ struct MovieDescription {
     VideoTrack video;
     SoundTrack sound;
     std::optional<std::vector<uint8_t>> gpsIndex;  // payload of the "gps " box
+    std::optional<GpmfMetadata> gpmf;
 };
 
 std::vector<uint8_t> fileTypeBox(FileBrand brand);

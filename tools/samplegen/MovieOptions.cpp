@@ -24,4 +24,7 @@ void validate(const MovieOptions& o) {
     // The loader reads the sound-chunk layout only from non-MP4 files.
     require(!(o.layout == GPSBlockLayout::Chunk && o.form == GPSRecordForm::MP4),
             "--layout chunk cannot be combined with --form mp4");
+    // The loader reads camera blocks first: beside them another track would never be read.
+    require(o.layout == GPSBlockLayout::None || (o.track == EmbeddedTrack::None && o.sidecar == SidecarTrack::None),
+            "--track and --sidecar need --layout none");
 }

@@ -8,10 +8,17 @@
 
 // How the GPS blocks are found: through a "gps " index box, after every sound chunk, or not at all.
 enum class GPSBlockLayout { Index, Chunk, None };
+// A track the movie holds other than in camera blocks: a GPMF metadata track, or NMEA sentences
+// in a top-level "free" box.
+enum class EmbeddedTrack { None, Gpmf, NmeaText };
+// A track file written beside the movie under its base name: clip.nmea or clip.gpx.
+enum class SidecarTrack { None, Nmea, Gpx };
 
 struct MovieOptions {
     GPSRecordForm form = GPSRecordForm::Scaled;
     GPSBlockLayout layout = GPSBlockLayout::Index;
+    EmbeddedTrack track = EmbeddedTrack::None;
+    SidecarTrack sidecar = SidecarTrack::None;
     int width = 1280;
     int height = 720;
     int fps = 30;

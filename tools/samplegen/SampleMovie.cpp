@@ -4,12 +4,15 @@
 #include "DashcamScene.h"
 #include "EngineHum.h"
 #include "GPSBlock.h"
+#include "GpmfWriter.h"
 #include "H264Encoder.h"
 #include "MovieBox.h"
 #include "MovieLayout.h"
+#include "NmeaFreeBox.h"
 #include "OutputFile.h"
 #include "RecordEncoder.h"
 #include "SampleGenError.h"
+#include "SidecarWriter.h"
 
 #include <cstdio>
 #include <deque>
@@ -58,6 +61,7 @@ public:
     void write() {
         const FileBrand brand = options_.form == GPSRecordForm::MP4 ? FileBrand::IsoMp4 : FileBrand::QuickTime;
         out_.write(fileTypeBox(brand));
+        if (options_.track == EmbeddedTrack::NmeaText) out_.write(nmeaFreeBox(timedRoute(), plan_.seconds));
         const uint64_t mdatStart = out_.write(std::vector<uint8_t>{0, 0, 0, 0, 'm', 'd', 'a', 't'});
         const std::vector<uint8_t> avcConfig = writeMediaData();
         const uint64_t mdatSize = out_.position() - mdatStart;
@@ -66,6 +70,8 @@ public:
         out_.patchU32BE(mdatStart, uint32_t(mdatSize));
         out_.write(movieBox(describeMovie(brand, avcConfig)));
     }
+
+    TimedRoute timedRoute() const { return {route_, plan_.start, startInstant_}; }
 
 private:
     // Draws and encodes every frame; returns the stream's decoder configuration.
@@ -98,6 +104,7 @@ private:
         movie_.sound.sampleRate = uint16_t(options_.sampleRate);
         movie_.sound.samples.sampleDelta = 1;
         movie_.sound.samples.uniformSampleSize = kBytesPerSample * uint32_t(options_.channels);
+        if (options_.track == EmbeddedTrack::Gpmf) movie_.gpmf->samples.sampleDelta = 1000;  // ms
         if (options_.layout == GPSBlockLayout::Index) movie_.gpsIndex = makeGPSIndexPayload(state_.gpsBlockOffsets);
         return movie_;
     }
@@ -124,6 +131,17 @@ private:
             gps = block;
         }
         writeSecond_(out_, {frames, sound, uint32_t(options_.sampleRate), gps}, state_);
+        if (options_.track == EmbeddedTrack::Gpmf) writeGpmfPayload(second);
+    }
+
+    // The second's payload in a chunk of its own, after the second's picture and sound.
+    void writeGpmfPayload(int64_t second) {
+        if (!movie_.gpmf) movie_.gpmf.emplace();
+        const std::vector<uint8_t> payload = makeGpmfPayload(timedRoute(), second);
+        const uint64_t offset = out_.write(payload);
+        if (offset > std::numeric_limits<uint32_t>::max())
+            throw SampleGenError("movie too large: offsets past 4 GiB cannot be written");
+        movie_.gpmf->samples.addChunk(uint32_t(offset), 1, {uint32_t(payload.size())});
     }
 
     const Route& route_;
@@ -165,6 +183,8 @@ void writeSampleMovie(const Route& route, const MovieOptions& options, const std
     // The camera's clock is the user's wall clock: the file is dated as the playlist should show it.
     const int64_t startInstant = localInstant(fromClockSeconds(plan.start));
     OutputFile out(output);
-    MovieWriter(route, options, plan, startInstant, out).write();
+    MovieWriter writer(route, options, plan, startInstant, out);
+    writer.write();
     out.commit(options.setFileTime ? std::optional(startInstant) : std::nullopt);
+    writeSidecar(options.sidecar, writer.timedRoute(), plan.seconds, output);
 }

@@ -25,5 +25,6 @@ MoviePlan planMovie(const Route& route, const MovieOptions& options);
 // What records 1..seconds hold, before the record form encodes them.
 std::vector<RouteSample> recordedSamples(const Route& route, const MoviePlan& plan);
 
-// Writes the movie atomically (a temporary file renamed at the end). Throws SampleGenError.
+// Writes the movie atomically (a temporary file renamed at the end), then the sidecar the options
+// ask for beside it. Throws SampleGenError.
 void writeSampleMovie(const Route& route, const MovieOptions& options, const std::filesystem::path& output);
