@@ -106,6 +106,14 @@ GPSFix decodeType1(std::span<const uint8_t> block) {
 bool isType2(std::span<const uint8_t> head) { return digitsAt(head, kType2Clock, 8) && digitsAt(head, kType2Clock + 8, 6); }
 
 GPSFix decodeType2(std::span<const uint8_t> block) {
+    // A block the file cuts short may end inside a sentence whose checksum is not trusted either:
+    // only text up to the last line end or NUL is read then.
+    const std::size_t stated = std::min<std::size_t>(readU32BE(block.data()), kType2Bytes);
+    if (block.size() < stated) {
+        const auto end = std::find_if(block.rbegin(), block.rend(), [](uint8_t c) { return c == '\n' || c == '\r' || c == 0; });
+        block = block.first(std::size_t(block.rend() - end));
+    }
+    if (block.size() <= kType2Clock + kType2ClockDigits) return noFix();
     const auto from = block.begin() + kType2Clock + kType2ClockDigits;
     const auto dollar = std::find(from, block.end(), uint8_t('$'));
     const std::string_view text(reinterpret_cast<const char*>(block.data()) + (dollar - block.begin()),
