@@ -4,6 +4,7 @@
 #include "GPSDataLoader.h"
 #include "MovieProbeLibrary.h"
 
+#include <iterator>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -25,7 +26,12 @@ constexpr std::pair<GPSRecordForm, std::string_view> kFormNames[] = {
     {GPSRecordForm::MP4, "mp4"},
     {GPSRecordForm::Scaled, "scaled"},
     {GPSRecordForm::FixedPoint, "fixed-point"},
+    {GPSRecordForm::Type1, "type1"},
+    {GPSRecordForm::Type2, "type2"},
+    {GPSRecordForm::Type3, "type3"},
+    {GPSRecordForm::Type20, "type20"},
 };
+static_assert(std::size(kFormNames) == kGPSRecordFormCount);
 
 std::string_view layoutName(GPSLayout layout) {
     for (const auto& [value, name] : kLayoutNames)

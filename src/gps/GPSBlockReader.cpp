@@ -1,24 +1,46 @@
 #include "GPSBlockReader.h"
 
+#include "BigEndian.h"
+#include "FreeGpsVariants.h"
 #include "GPSDataLoader.h"
 
 #include <algorithm>
 
-std::optional<GPSDATA> GPSBlockReader::recordAt(const BlockOffsets& offsets) {
+std::optional<GPSBlockContent> GPSBlockReader::blockAt(const BlockOffsets& offsets) {
     const uint64_t offset = offsets[0];
     // Offsets a few blocks apart land in different slots; a repeated offset finds its own.
     Slot& slot = slots_[(offset / kGPSBlockSize) % kRememberedBlocks];
-    if (slot.offset == offset) return slot.record;
+    if (slot.offset == offset) return slot.content;
 
     if (!spanHolds(offset)) readSpan(offsets);
-    std::optional<GPSDATA> record;
+    std::optional<GPSBlockContent> content;
     if (spanHolds(offset)) {
         const uint8_t* block = span_.data() + (offset - spanStart_);
-        if (GPSDataLoader::isGPSData(block))
-            record = decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block + kGPSHeaderSize, kGPSRecordSize));
+        if (GPSDataLoader::isGPSData(block)) {
+            content.emplace();
+            content->variant = detectFreeGpsVariant(std::span<const uint8_t, kGPSBlockSize>(block, kGPSBlockSize));
+            if (content->variant)
+                content->fix = decodeFreeGpsVariant(
+                    *content->variant, variantBytes(offset, block, variantBytesWanted(*content->variant)));
+            else
+                content->record =
+                    decodeGPSRecord(std::span<const uint8_t, kGPSRecordSize>(block + kGPSHeaderSize, kGPSRecordSize));
+        }
     }
-    slot = Slot{offset, record};
-    return record;
+    slot = Slot{offset, content};
+    return content;
+}
+
+std::span<const uint8_t> GPSBlockReader::variantBytes(uint64_t offset, const uint8_t* head, std::size_t wanted) {
+    // The block's own size word bounds it, never below the head already read nor above wanted.
+    const std::size_t length = std::clamp<std::size_t>(readU32BE(head), kGPSBlockSize, wanted);
+    const std::size_t inSpan = std::size_t(span_.size() - (offset - spanStart_));
+    if (inSpan >= length) return {head, length};
+    longBlock_.resize(length);
+    file_.seek(offset);
+    ++fileReads_;
+    longBlock_.resize(file_.read(longBlock_));
+    return longBlock_;
 }
 
 bool GPSBlockReader::spanHolds(uint64_t offset) const {

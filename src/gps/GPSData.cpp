@@ -81,6 +81,8 @@ void GPSData::SetData(GPSDATA record, bool isMP4) {
         case GPSRecordForm::FixedPoint:
             normaliseFixedPointForm(f);
             break;
+        default:  // formOf never gives the other layouts: they are read as fixes
+            break;
     }
     if (f.Year >= 2000) f.Year -= 2000;
 }

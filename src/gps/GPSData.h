@@ -4,14 +4,24 @@
 #include "GPSFix.h"
 #include "GPSRecord.h"
 
+#include <cstddef>
 #include <string>
 
-// The three ways cameras encode the record.
+// The three ways cameras encode the classic record, then the other layouts of the same chipset's
+// blocks (read as fixes, see FreeGpsVariants.h).
 enum class GPSRecordForm {
     MP4,         // offset-and-scaled floats; time moved by whole hours from the longitude
     Scaled,      // floats in minutes, speed in knots (Year <= 1999)
     FixedPoint,  // integers in 1e-7 degree and cm/s (Year >= 2000)
+    Type1,       // ASCII obscured by XOR 0xAA after an 8-byte signature
+    Type2,       // an ASCII camera clock and an NMEA sentence
+    Type3,       // int32 clock at 0x10, status and hemispheres at 0x28, float DDMM.MMMM
+    Type20,      // 32-byte big-endian records from 0x30, 1e-7 degree
 };
+inline constexpr std::size_t kGPSRecordFormCount = 7;
+
+// True for the three forms SetData normalises; the others come from FreeGpsVariants.
+constexpr bool isClassicForm(GPSRecordForm form) { return int(form) <= int(GPSRecordForm::FixedPoint); }
 
 class GPSData {
 public:

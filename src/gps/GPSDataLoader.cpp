@@ -41,17 +41,25 @@ class TrackBuilder {
 public:
     TrackBuilder(SeekableFile& file, GPSTrack& track) : blocks_(file), track_(track) {}
 
-    // Reads the 92-byte block at offsets[0]; the rest are the offsets to come, which lets close
+    // Reads the block at offsets[0]; the rest are the offsets to come, which lets close
     // neighbours be read together. A block that fails the header test or that the file does
     // not hold in full is skipped.
     // True when the block was accepted.
     bool addBlockAt(const BlockOffsets& offsets, bool isMP4) {
-        const std::optional<GPSDATA> raw = blocks_.recordAt(offsets);
-        if (!raw) return false;
+        const std::optional<GPSBlockContent> block = blocks_.blockAt(offsets);
+        if (!block) return false;
         GPSData sample;
-        sample.SetData(*raw, isMP4);
+        GPSRecordForm form;
+        if (block->variant) {
+            // Block k is shown from second k, whatever its layout, as the classic records are.
+            sample = GPSData::fromFix(block->fix);
+            form = *block->variant;
+        } else {
+            sample.SetData(block->record, isMP4);
+            form = GPSData::formOf(block->record, isMP4);
+        }
         max_ = std::max(max_, double(sample.data().rmcinfo.Speed));
-        track_.formCounts[std::size_t(GPSData::formOf(*raw, isMP4))]++;
+        track_.formCounts[std::size_t(form)]++;
         track_.samples.push_back(sample);
         return true;
     }

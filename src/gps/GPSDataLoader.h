@@ -32,7 +32,7 @@ struct GPSTrack {
     bool isMP4 = false;
     bool opened = false;
     int openError = 0;                      // errno of a failed open
-    std::size_t formCounts[3] = {0, 0, 0};  // samples per GPSRecordForm
+    std::size_t formCounts[kGPSRecordFormCount] = {};  // samples per GPSRecordForm
 };
 
 class GPSDataLoader {

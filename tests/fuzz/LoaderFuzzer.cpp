@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -47,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size) {
     // Every sample comes from a table entry of at least 4 bytes that the file holds.
     require(samples.size() <= size / 4, "no more samples than table entries the file can hold");
     require(samples.empty() || track.layout != GPSLayout::None, "samples come from a layout");
-    require(track.formCounts[0] + track.formCounts[1] + track.formCounts[2] == samples.size(),
+    require(std::accumulate(std::begin(track.formCounts), std::end(track.formCounts), std::size_t(0)) == samples.size(),
             "every sample has one form");
 
     double largest = 0.0;  // as the loader keeps it: a speed not above the maximum leaves it

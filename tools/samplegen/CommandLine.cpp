@@ -28,7 +28,9 @@ Enum parseChoice(std::string_view option, std::string_view text, const std::map<
 }
 
 const std::map<std::string_view, GPSRecordForm> kForms = {
-    {"mp4", GPSRecordForm::MP4}, {"scaled", GPSRecordForm::Scaled}, {"fixed", GPSRecordForm::FixedPoint}};
+    {"mp4", GPSRecordForm::MP4},       {"scaled", GPSRecordForm::Scaled}, {"fixed", GPSRecordForm::FixedPoint},
+    {"type1", GPSRecordForm::Type1},   {"type2", GPSRecordForm::Type2},   {"type3", GPSRecordForm::Type3},
+    {"type20", GPSRecordForm::Type20}};
 const std::map<std::string_view, GPSBlockLayout> kLayouts = {
     {"index", GPSBlockLayout::Index}, {"chunk", GPSBlockLayout::Chunk}, {"none", GPSBlockLayout::None}};
 const std::map<std::string_view, EmbeddedTrack> kTracks = {
@@ -123,6 +125,10 @@ trunc(trunc(longitude) / 15) hours for longitudes beyond +-15 degrees.
 
 Options:
   --form mp4|scaled|fixed     record form (default scaled); mp4 writes an ISO ftyp
+  --form type1|type2|type3|type20
+                              another maker's block layout of 256 bytes: XOR-obscured text,
+                              an NMEA sentence, int32 clock with float minutes, big-endian
+                              records; speed rounded to the layout's unit
   --layout index|chunk|none   "gps " index box, a block after every sound chunk, or no GPS
                               (default index; chunk needs --form scaled or fixed)
   --track gpmf|nmea-text      also a track in the movie: a GPMF metadata track (ten GPS5 fixes

@@ -18,13 +18,13 @@ std::array<uint8_t, kGPSBlockSize> makeGPSBlock(const GPSDATA& record) {
     return block;
 }
 
-std::vector<uint8_t> makeGPSIndexPayload(std::span<const uint32_t> blockOffsets) {
+std::vector<uint8_t> makeGPSIndexPayload(std::span<const uint32_t> blockOffsets, uint32_t blockSize) {
     ByteWriter index;
     index.u32(0);
     index.u32(uint32_t(blockOffsets.size()));
     for (uint32_t offset : blockOffsets) {
         index.u32(offset);
-        index.u32(uint32_t(kGPSBlockSize));
+        index.u32(blockSize);
     }
     return index.take();
 }

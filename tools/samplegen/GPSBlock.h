@@ -11,8 +11,9 @@
 
 std::array<uint8_t, kGPSBlockSize> makeGPSBlock(const GPSDATA& record);
 
-// Payload of the "gps " box: a version word, the entry count, then (offset, size) per block.
-std::vector<uint8_t> makeGPSIndexPayload(std::span<const uint32_t> blockOffsets);
+// Payload of the "gps " box: a version word, the entry count, then (offset, size) per block;
+// every block of a movie has the same size.
+std::vector<uint8_t> makeGPSIndexPayload(std::span<const uint32_t> blockOffsets, uint32_t blockSize = kGPSBlockSize);
 
 // Distance from the start of a sound chunk to its GPS block: one second of sound, rounded up to
 // the next multiple of 32 KiB (a whole multiple still moves up by 32 KiB).

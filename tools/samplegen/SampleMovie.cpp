@@ -3,6 +3,7 @@
 #include "CivilTime.h"
 #include "DashcamScene.h"
 #include "EngineHum.h"
+#include "FreeGpsVariantBlocks.h"
 #include "GPSBlock.h"
 #include "GpmfWriter.h"
 #include "H264Encoder.h"
@@ -105,7 +106,9 @@ private:
         movie_.sound.samples.sampleDelta = 1;
         movie_.sound.samples.uniformSampleSize = kBytesPerSample * uint32_t(options_.channels);
         if (options_.track == EmbeddedTrack::Gpmf) movie_.gpmf->samples.sampleDelta = 1000;  // ms
-        if (options_.layout == GPSBlockLayout::Index) movie_.gpsIndex = makeGPSIndexPayload(state_.gpsBlockOffsets);
+        if (options_.layout == GPSBlockLayout::Index)
+            movie_.gpsIndex = makeGPSIndexPayload(
+                state_.gpsBlockOffsets, uint32_t(isClassicForm(options_.form) ? kGPSBlockSize : kVariantBlockSize));
         return movie_;
     }
 
@@ -124,12 +127,17 @@ private:
         const double at = double(plan_.start + second);
         hum_.render(sound, options_.sampleRate, route_.at(at).speed, route_.at(at + 1).speed);
 
-        std::array<uint8_t, kGPSBlockSize> block{};
-        std::span<const uint8_t> gps;
+        std::vector<uint8_t> block;
         if (options_.layout != GPSBlockLayout::None) {
-            block = makeGPSBlock(makeRawRecord(records_[std::size_t(second)], options_.form));
-            gps = block;
+            const RouteSample& record = records_[std::size_t(second)];
+            if (isClassicForm(options_.form)) {
+                const auto classic = makeGPSBlock(makeRawRecord(record, options_.form));
+                block.assign(classic.begin(), classic.end());
+            } else {
+                block = makeFreeGpsVariantBlock(record, options_.form);
+            }
         }
+        const std::span<const uint8_t> gps = block;
         writeSecond_(out_, {frames, sound, uint32_t(options_.sampleRate), gps}, state_);
         if (options_.track == EmbeddedTrack::Gpmf) writeGpmfPayload(second);
     }
