@@ -71,7 +71,8 @@ void MainWindowDelegate::showCarLocation(const GPSData& data, int64_t index) {
     routeTracker_.showCarLocation(data, index, route);
 }
 
-void MainWindowDelegate::showRouteAhead(const std::vector<TimelineClip>& clips) {
+void MainWindowDelegate::showRouteAhead(const std::vector<TimelineClip>& clips,
+                                        const std::vector<std::span<const GPSFix>>& clipFixes) {
     routeAhead_.clear();
     std::vector<std::shared_ptr<const Polyline>> lines;
     Polyline line;
@@ -79,18 +80,27 @@ void MainWindowDelegate::showRouteAhead(const std::vector<TimelineClip>& clips) 
         if (!line.points.empty()) lines.push_back(std::make_shared<const Polyline>(std::move(line)));
         line = {};
     };
-    for (std::size_t c = 0; c < clips.size(); ++c) {
-        // Record k is on screen from second k of its clip.
-        for (std::size_t k = 1; k < clips[c].track.size(); ++k) {
-            const auto place = samplePlace(clips[c].track[k]);
-            if (!place) {
-                endLine();
-                continue;
-            }
-            const Coordinate coordinate{place->latitude, place->longitude};
-            line.points.push_back(coordinate);
-            routeAhead_.push_back({coordinate, timelineClock_.tripSecondsAt(c, double(k))});
+    const auto add = [&](std::optional<GeoPoint> place, std::size_t clip, double clipSeconds) {
+        if (!place) {
+            endLine();
+            return;
         }
+        const Coordinate coordinate{place->latitude, place->longitude};
+        line.points.push_back(coordinate);
+        routeAhead_.push_back({coordinate, timelineClock_.tripSecondsAt(clip, clipSeconds)});
+    };
+    for (std::size_t c = 0; c < clips.size(); ++c) {
+        // A format with several fixes a second draws the route through all of them.
+        if (c < clipFixes.size() && !clipFixes[c].empty()) {
+            for (const GPSFix& fix : clipFixes[c]) {
+                if (!fix.movieSeconds) continue;
+                const bool placed = fix.quality != GPSFix::Quality::NoFix;
+                add(placed ? samplePlace(GPSData::fromFix(fix)) : std::nullopt, c, *fix.movieSeconds);
+            }
+            continue;
+        }
+        // Record k is on screen from second k of its clip.
+        for (std::size_t k = 1; k < clips[c].track.size(); ++k) add(samplePlace(clips[c].track[k]), c, double(k));
     }
     endLine();
     if (outlets_.mapView != nullptr) outlets_.mapView->setUnderlay(std::move(lines), kRouteAheadStyle);

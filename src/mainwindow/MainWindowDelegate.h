@@ -24,6 +24,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <span>
 #include <vector>
 
 class ClipCatalog;
@@ -139,7 +140,7 @@ public:
     std::optional<PolylineStyle> rendererForOverlay(MapView& map, const Polyline& line) override;
     // The whole route of the timeline's clips, faint under the driven part; a click on it seeks
     // to the moment the car was there.
-    void showRouteAhead(const std::vector<TimelineClip>& clips);
+    void showRouteAhead(const std::vector<TimelineClip>& clips, const std::vector<std::span<const GPSFix>>& clipFixes);
     void OnMapClicked(QPointF widgetPoint);
     // source: "osm", "mbtiles:PATH", "folder:PATH" or "offline"; stored for the next run.
     void OnMapSourceChanged(const std::string& source);
@@ -174,7 +175,8 @@ private:
     // The loaded clip's playback time as the position slider last showed it; 0 without a movie.
     double currentClipSeconds() const;
     // The timeline's series and route ahead on the timeline widget and the map.
-    void showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips);
+    void showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips,
+                            const std::vector<std::span<const GPSFix>>& clipFixes);
     void showTimelineCursor(double seconds);
     void setupTimeline();
     // The timeline's tooltip: the time, the speed and the place there.

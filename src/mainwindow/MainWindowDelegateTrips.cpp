@@ -125,6 +125,7 @@ void MainWindowDelegate::refreshTimeline() {
         span = settings_.continuousPlay() ? tripIndex_.spanOfRow(static_cast<std::size_t>(curIndex))
                                           : TripSpan{static_cast<std::size_t>(curIndex), 1};
     std::vector<TimelineClip> clips;
+    std::vector<std::span<const GPSFix>> clipFixes;
     for (std::size_t row = span.first; row < span.first + span.count; ++row) {
         TimelineClip clip;
         const ClipRecord* record = clipCatalog_ != nullptr ? clipCatalog_->find(playlist.at(row).URL()) : nullptr;
@@ -132,6 +133,8 @@ void MainWindowDelegate::refreshTimeline() {
             clip.track = *record->track;
             clip.durationSeconds = record->facts.summary.durationSeconds;
         }
+        clipFixes.push_back(record != nullptr && record->fixes ? std::span<const GPSFix>(*record->fixes)
+                                                               : std::span<const GPSFix>());
         // The loaded clip: the player's own track and its duration as the player reads it.
         if (static_cast<int64_t>(row) == curIndex && player != nullptr && player->IsReady()) {
             if (player->gpsDataList()) clip.track = *player->gpsDataList();
@@ -143,7 +146,7 @@ void MainWindowDelegate::refreshTimeline() {
     for (const TimelineClip& clip : clips) durations.push_back(clip.durationSeconds);
     timelineSpan_ = span;
     timelineClock_ = TripClock(std::move(durations));
-    showTimelineSeries(buildTimelineSeries(clips), clips);
+    showTimelineSeries(buildTimelineSeries(clips), clips, clipFixes);
     showTimelinePosition(currentClipSeconds());
 }
 
@@ -176,8 +179,9 @@ QString MainWindowDelegate::timelineHoverText(double seconds) const {
     return text;
 }
 
-void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips) {
-    showRouteAhead(clips);
+void MainWindowDelegate::showTimelineSeries(TimelineSeries series, const std::vector<TimelineClip>& clips,
+                                            const std::vector<std::span<const GPSFix>>& clipFixes) {
+    showRouteAhead(clips, clipFixes);
     if (outlets_.timeline == nullptr) return;
     outlets_.timeline->setSpeedUnitName(qText(settings_.SpeedUnitName()));
     outlets_.timeline->setSeries(std::move(series));

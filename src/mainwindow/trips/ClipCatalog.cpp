@@ -26,7 +26,8 @@ std::optional<int64_t> firstDated(const std::vector<GPSData>& track, bool fromEn
 
 ClipRecord ClipCatalog::readClip(const std::filesystem::path& file) {
     auto track = std::make_shared<std::vector<GPSData>>();
-    std::vector<GPSData> records = GPSDataLoader::LoadTrack(file).samples;
+    GPSTrack loaded = GPSDataLoader::LoadTrack(file);
+    std::vector<GPSData> records = std::move(loaded.samples);
     if (!records.empty()) {
         track->reserve(records.size() + 1);
         track->emplace_back();
@@ -45,6 +46,7 @@ ClipRecord ClipCatalog::readClip(const std::filesystem::path& file) {
     }
     record.facts.distanceMetres = trackDistanceMetres(records);
     record.track = std::move(track);
+    if (!loaded.fixes.empty()) record.fixes = std::make_shared<const std::vector<GPSFix>>(std::move(loaded.fixes));
     return record;
 }
 

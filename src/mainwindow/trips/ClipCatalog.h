@@ -26,6 +26,8 @@
 struct ClipRecord {
     // The player's form of the track: an empty lead-in sample, then one record a second.
     std::shared_ptr<const std::vector<GPSData>> track;
+    // Every fix of the formats that record several a second; null for the others.
+    std::shared_ptr<const std::vector<GPSFix>> fixes;
     ClipFacts facts;
 };
 
