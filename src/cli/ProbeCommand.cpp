@@ -17,6 +17,7 @@ constexpr std::pair<GPSLayout, std::string_view> kLayoutNames[] = {
     {GPSLayout::SoundChunk, "sound-chunk"},
     {GPSLayout::Gpmf, "gpmf"},
     {GPSLayout::NmeaText, "nmea-text"},
+    {GPSLayout::NmeaTrack, "nmea-track"},
     {GPSLayout::NmeaSidecar, "nmea-sidecar"},
     {GPSLayout::GpxSidecar, "gpx-sidecar"},
 };

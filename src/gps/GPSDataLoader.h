@@ -17,6 +17,7 @@ enum class GPSLayout {
     SoundChunk,  // one block after each sound chunk, at a fixed distance
     Gpmf,        // a timed metadata track of KLV records (action cameras)
     NmeaText,    // NMEA sentences in a box of the movie
+    NmeaTrack,   // NMEA sentences in the samples of a text or metadata track
     NmeaSidecar, // NMEA sentences in a file beside the movie
     GpxSidecar,  // a GPX track beside the movie
 };

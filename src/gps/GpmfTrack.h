@@ -1,31 +1,19 @@
 #pragma once
 // The GPS fixes of an action camera's movie: the timed metadata track that holds GPMF payloads.
 //
-// Layout read here (ISO base media / QuickTime boxes):
-//   moov/trak/mdia/hdlr   handler type "meta" at payload offset 8
-//   moov/trak/mdia/mdhd   time scale (offset 12 in version 0, 20 in version 1)
-//   .../minf/stbl/stsd    first sample entry of format "gpmd"
-//   .../stbl/stsz         sample sizes (one for all, or one each)
-//   .../stbl/stco|co64    chunk offsets, 32 or 64 bits
-//   .../stbl/stsc         runs of chunks with the same count of samples
-//   .../stbl/stts         runs of samples with the same duration, in time-scale units
-// One sample is one GPMF payload, about a second of telemetry. Edit lists are not applied: the
-// cameras start this track with the movie.
+// The track is a timed metadata track (handler "meta") whose sample entry is "gpmd"; where its
+// samples lie is read as MovieTracks.h describes. One sample is one GPMF payload, about a second
+// of telemetry.
 
 #include "GPSFix.h"
+#include "MovieTracks.h"
 #include "SeekableFile.h"
 
 #include <cstdint>
 #include <filesystem>
 #include <vector>
 
-// Where one payload lies in the file and in the movie.
-struct GpmfSample {
-    uint64_t offset = 0;
-    uint32_t bytes = 0;
-    double startSeconds = 0;
-    double durationSeconds = 0;
-};
+using GpmfSample = TrackSample;
 
 class GpmfTrack {
 public:

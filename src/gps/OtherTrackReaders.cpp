@@ -4,6 +4,7 @@
 #include "GpmfTrack.h"
 #include "MovieDuration.h"
 #include "NmeaBoxTrack.h"
+#include "NmeaTrack.h"
 #include "SidecarFiles.h"
 #include "SidecarMatch.h"
 
@@ -43,6 +44,14 @@ std::optional<GPSTrack> readNmeaText(SeekableFile& movie, const std::filesystem:
     return trackFromFixes(std::move(placed), duration, GPSLayout::NmeaText);
 }
 
+// A track's samples carry their own movie time, so its sentences need no placing.
+std::optional<GPSTrack> readNmeaTrack(SeekableFile& movie, const std::filesystem::path& /*url*/,
+                                      const std::optional<MovieHeader>& header) {
+    std::vector<GPSFix> fixes = NmeaTrack::readFixes(movie);
+    if (fixes.empty()) return std::nullopt;
+    return trackFromFixes(std::move(fixes), durationOf(header), GPSLayout::NmeaTrack);
+}
+
 // A sidecar's fixes that fall within the clip, from the movie's creation time for its length. A
 // sidecar of another time claims nothing, so a later one may.
 std::optional<GPSTrack> readSidecar(SeekableFile& /*movie*/, const std::filesystem::path& url,
@@ -58,7 +67,7 @@ std::optional<GPSTrack> readSidecar(SeekableFile& /*movie*/, const std::filesyst
     return std::nullopt;
 }
 
-constexpr Reader kReaders[] = {readGpmf, readNmeaText, readSidecar};
+constexpr Reader kReaders[] = {readGpmf, readNmeaText, readNmeaTrack, readSidecar};
 
 }  // namespace
 

@@ -99,6 +99,7 @@ TEST(Program, ProbeTellsLayoutFormsAndCountOfEachFile) {
         {"nogps.mov", "movie\tnone\t-\t0"},
         {"gpmf.mov", "movie\tgpmf\t-\t" + std::to_string(n)},
         {"nmea_text.mov", "movie\tnmea-text\t-\t" + std::to_string(n)},
+        {"nmea_track.mov", "movie\tnmea-track\t-\t" + std::to_string(n)},
         {"nmea_sidecar.mov", "movie\tnmea-sidecar\t-\t" + std::to_string(n)},
         {"gpx_sidecar.mov", "movie\tgpx-sidecar\t-\t" + std::to_string(n)},
         {"route10.csv", "not-movie\tnone\t-\t0"},

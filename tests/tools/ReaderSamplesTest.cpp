@@ -61,6 +61,7 @@ struct TrackKind {
 const TrackKind kKinds[] = {
     {"gpmf", EmbeddedTrack::Gpmf, SidecarTrack::None, GPSLayout::Gpmf, 10, false, 6e-8, 6e-4},
     {"nmea-text", EmbeddedTrack::NmeaText, SidecarTrack::None, GPSLayout::NmeaText, 1, true, 1e-6, 3e-4},
+    {"nmea-track", EmbeddedTrack::NmeaTrack, SidecarTrack::None, GPSLayout::NmeaTrack, 1, false, 1e-6, 3e-4},
     {"nmea-sidecar", EmbeddedTrack::None, SidecarTrack::Nmea, GPSLayout::NmeaSidecar, 1, true, 1e-6, 3e-4},
     {"gpx-sidecar", EmbeddedTrack::None, SidecarTrack::Gpx, GPSLayout::GpxSidecar, 1, true, 6e-8, 6e-4},
 };
@@ -196,6 +197,8 @@ TEST(ReaderSamples, ExiftoolFindsTheSameFixes) {
         {"gpmf", small(EmbeddedTrack::Gpmf, SidecarTrack::None), fixCount, fixReading,
          [](const Reading& r) { return r; }, 1e-9, 1e-9},
         {"nmea-text", small(EmbeddedTrack::NmeaText, SidecarTrack::None), fixCount, fixReading,
+         [](const Reading& r) { return Reading{r.latitude, r.longitude, r.speed * 3.6}; }, 1e-9, 1e-9},
+        {"nmea-track", small(EmbeddedTrack::NmeaTrack, SidecarTrack::None), fixCount, fixReading,
          [](const Reading& r) { return Reading{r.latitude, r.longitude, r.speed * 3.6}; }, 1e-9, 1e-9},
         {"index scaled", blocks(GPSRecordForm::Scaled), sampleCount, sampleReading,
          [](const Reading& r) {

@@ -34,7 +34,10 @@ const std::map<std::string_view, GPSRecordForm> kForms = {
 const std::map<std::string_view, GPSBlockLayout> kLayouts = {
     {"index", GPSBlockLayout::Index}, {"chunk", GPSBlockLayout::Chunk}, {"none", GPSBlockLayout::None}};
 const std::map<std::string_view, EmbeddedTrack> kTracks = {
-    {"gpmf", EmbeddedTrack::Gpmf}, {"nmea-text", EmbeddedTrack::NmeaText}, {"none", EmbeddedTrack::None}};
+    {"gpmf", EmbeddedTrack::Gpmf},
+    {"nmea-text", EmbeddedTrack::NmeaText},
+    {"nmea-track", EmbeddedTrack::NmeaTrack},
+    {"none", EmbeddedTrack::None}};
 const std::map<std::string_view, SidecarTrack> kSidecars = {
     {"nmea", SidecarTrack::Nmea}, {"gpx", SidecarTrack::Gpx}, {"none", SidecarTrack::None}};
 
@@ -131,10 +134,12 @@ Options:
                               records; speed rounded to the layout's unit
   --layout index|chunk|none   "gps " index box, a block after every sound chunk, or no GPS
                               (default index; chunk needs --form scaled or fixed)
-  --track gpmf|nmea-text      also a track in the movie: a GPMF metadata track (ten GPS5 fixes
-                              a second, UTC from the movie's creation time), or NMEA sentences
+  --track gpmf|nmea-text|nmea-track
+                              also a track in the movie: a GPMF metadata track (ten GPS5 fixes
+                              a second, UTC from the movie's creation time), NMEA sentences
                               (RMC and GGA, one of each a second) in a top-level "free" box's
-                              "gps " child; needs --layout none
+                              "gps " child, or the same sentences in the one-a-second samples
+                              of a text track; needs --layout none
   --sidecar nmea|gpx          also a track file beside the movie, OUTPUT's base name with .nmea
                               or .gpx, one point a second from the movie's start to its end, in
                               UTC from the movie's creation time; needs --layout none

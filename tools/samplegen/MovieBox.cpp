@@ -32,7 +32,7 @@ void writeMovieHeader(ByteWriter& out, const MovieDescription& movie) {
         out.zeros(10);
         writeMatrix(out);
         out.zeros(24);
-        out.u32(movie.gpmf ? 4 : 3);  // next track ID
+        out.u32(movie.dataTrack ? 4 : 3);  // next track ID
     });
 }
 
@@ -196,24 +196,24 @@ void writeSoundTrack(ByteWriter& out, const MovieDescription& movie) {
     });
 }
 
-void writeGpmfTrack(ByteWriter& out, const MovieDescription& movie, const GpmfMetadata& gpmf) {
+void writeDataTrack(ByteWriter& out, const MovieDescription& movie, const TimedDataTrack& track) {
     out.box("trak", [&] {
         writeTrackHeader(out, movie, {3, movie.durationSeconds * kMovieTimescale, 0, 0, 0});
         out.box("mdia", [&] {
-            writeMediaHeader(out, movie, kMovieTimescale, gpmf.samples.sampleCount * gpmf.samples.sampleDelta);
-            writeHandler(out, movie.brand, "meta");
+            writeMediaHeader(out, movie, kMovieTimescale, track.samples.sampleCount * track.samples.sampleDelta);
+            writeHandler(out, movie.brand, track.handler);
             out.box("minf", [&] {
                 out.fullBox("nmhd", 0, 0, [] {});
                 writeDataInformation(out);
                 out.box("stbl", [&] {
                     out.fullBox("stsd", 0, 0, [&] {
                         out.u32(1);
-                        out.box("gpmd", [&] {
+                        out.box(track.sampleFormat, [&] {
                             out.zeros(6);
                             out.u16(1);  // data reference index
                         });
                     });
-                    writeSampleTableBoxes(out, gpmf.samples);
+                    writeSampleTableBoxes(out, track.samples);
                 });
             });
         });
@@ -244,7 +244,7 @@ std::vector<uint8_t> movieBox(const MovieDescription& movie) {
         writeMovieHeader(out, movie);
         writeVideoTrack(out, movie);
         writeSoundTrack(out, movie);
-        if (movie.gpmf) writeGpmfTrack(out, movie, *movie.gpmf);
+        if (movie.dataTrack) writeDataTrack(out, movie, *movie.dataTrack);
         if (movie.gpsIndex) out.box("gps ", [&] { out.bytes(*movie.gpsIndex); });
     });
     return out.take();

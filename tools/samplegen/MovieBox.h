@@ -1,6 +1,6 @@
 #pragma once
-// The file type box and the movie box (one picture track, one sound track, and optionally a GPMF
-// metadata track and the "gps " index) of the movies the generator writes.
+// The file type box and the movie box (one picture track, one sound track, and optionally a timed
+// track of GPMF payloads or NMEA text, and the "gps " index) of the movies the generator writes.
 
 #include "SampleTable.h"
 
@@ -27,8 +27,11 @@ struct SoundTrack {
     SampleTable samples;  // one sample per PCM frame
 };
 
-// A timed metadata track of GPMF payloads (handler "meta", sample entry "gpmd"), in milliseconds.
-struct GpmfMetadata {
+// A timed track of data samples, in milliseconds: GPMF payloads (handler "meta", sample entry
+// "gpmd") or a camera's NMEA text (handler "text", sample entry "text").
+struct TimedDataTrack {
+    const char* handler = "meta";
+    const char* sampleFormat = "gpmd";
     SampleTable samples;
 };
 
@@ -39,7 +42,7 @@ struct MovieDescription {
     VideoTrack video;
     SoundTrack sound;
     std::optional<std::vector<uint8_t>> gpsIndex;  // payload of the "gps " box
-    std::optional<GpmfMetadata> gpmf;
+    std::optional<TimedDataTrack> dataTrack;
 };
 
 std::vector<uint8_t> fileTypeBox(FileBrand brand);

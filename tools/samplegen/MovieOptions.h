@@ -8,9 +8,9 @@
 
 // How the GPS blocks are found: through a "gps " index box, after every sound chunk, or not at all.
 enum class GPSBlockLayout { Index, Chunk, None };
-// A track the movie holds other than in camera blocks: a GPMF metadata track, or NMEA sentences
-// in a top-level "free" box.
-enum class EmbeddedTrack { None, Gpmf, NmeaText };
+// A track the movie holds other than in camera blocks: a GPMF metadata track, NMEA sentences in a
+// top-level "free" box, or NMEA sentences in the samples of a text track.
+enum class EmbeddedTrack { None, Gpmf, NmeaText, NmeaTrack };
 // A track file written beside the movie under its base name: clip.nmea or clip.gpx.
 enum class SidecarTrack { None, Nmea, Gpx };
 

@@ -10,6 +10,7 @@
 #include "MovieBox.h"
 #include "MovieLayout.h"
 #include "NmeaFreeBox.h"
+#include "NmeaTrackSample.h"
 #include "OutputFile.h"
 #include "RecordEncoder.h"
 #include "SampleGenError.h"
@@ -105,7 +106,7 @@ private:
         movie_.sound.sampleRate = uint16_t(options_.sampleRate);
         movie_.sound.samples.sampleDelta = 1;
         movie_.sound.samples.uniformSampleSize = kBytesPerSample * uint32_t(options_.channels);
-        if (options_.track == EmbeddedTrack::Gpmf) movie_.gpmf->samples.sampleDelta = 1000;  // ms
+        if (movie_.dataTrack) movie_.dataTrack->samples.sampleDelta = 1000;  // ms
         if (options_.layout == GPSBlockLayout::Index)
             movie_.gpsIndex = makeGPSIndexPayload(
                 state_.gpsBlockOffsets, uint32_t(isClassicForm(options_.form) ? kGPSBlockSize : kVariantBlockSize));
@@ -139,17 +140,23 @@ private:
         }
         const std::span<const uint8_t> gps = block;
         writeSecond_(out_, {frames, sound, uint32_t(options_.sampleRate), gps}, state_);
-        if (options_.track == EmbeddedTrack::Gpmf) writeGpmfPayload(second);
+        if (options_.track == EmbeddedTrack::Gpmf) writeDataSample(makeGpmfPayload(timedRoute(), second));
+        if (options_.track == EmbeddedTrack::NmeaTrack) writeDataSample(makeNmeaTrackSample(timedRoute(), second));
     }
 
-    // The second's payload in a chunk of its own, after the second's picture and sound.
-    void writeGpmfPayload(int64_t second) {
-        if (!movie_.gpmf) movie_.gpmf.emplace();
-        const std::vector<uint8_t> payload = makeGpmfPayload(timedRoute(), second);
+    // The second's data sample in a chunk of its own, after the second's picture and sound.
+    void writeDataSample(const std::vector<uint8_t>& payload) {
+        if (!movie_.dataTrack) {
+            movie_.dataTrack.emplace();
+            if (options_.track == EmbeddedTrack::NmeaTrack) {
+                movie_.dataTrack->handler = "text";
+                movie_.dataTrack->sampleFormat = "text";
+            }
+        }
         const uint64_t offset = out_.write(payload);
         if (offset > std::numeric_limits<uint32_t>::max())
             throw SampleGenError("movie too large: offsets past 4 GiB cannot be written");
-        movie_.gpmf->samples.addChunk(uint32_t(offset), 1, {uint32_t(payload.size())});
+        movie_.dataTrack->samples.addChunk(uint32_t(offset), 1, {uint32_t(payload.size())});
     }
 
     const Route& route_;
