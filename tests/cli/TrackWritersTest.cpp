@@ -99,10 +99,6 @@ TEST(TrackWriters, AltitudeHeadingAndFixKindOnlyWhereTheFormatStatedThem) {
         const std::string text = render(c.format, {{"a.mov", mixed}});
         for (const char* stated : c.stated) EXPECT_EQ(occurrences(text, stated), 1u) << c.format << ": " << stated;
     }
-    // The unstated sample writes what a camera record would: no third coordinate, no course.
-    EXPECT_EQ(occurrences(render("geojson", {{"a.mov", mixed}}), "[20, 11]"), 1u);
-    EXPECT_EQ(occurrences(render("kml", {{"a.mov", mixed}}), "<gx:coord>20 11 0</gx:coord>"), 1u);
-    EXPECT_EQ(occurrences(render("gpx", {{"a.mov", mixed}}), "<gpxtpx:speed>"), 2u);
     // The CSV table's columns are fixed: the stated values change nothing in it.
     EXPECT_EQ(render("csv", {{"a.mov", mixed}}),
               render("csv", {{"a.mov", trackOf({fixSample(10, false), fixSample(11, false)})}}));

@@ -64,9 +64,6 @@ TEST(GPSDataFromFix, KeepsAltitudeHeadingAndFixKindBesideTheRecord) {
         EXPECT_EQ(sample.heldOver().fixQuality(), held) << c.what;
         EXPECT_EQ(sample.heldOver().altitudeMetres(), c.expectedAltitude) << c.what;
     }
-    const GPSData camera;  // the camera blocks' samples come through SetData
-    EXPECT_FALSE(camera.altitudeMetres() || camera.heading());
-    EXPECT_EQ(camera.fixQuality(), GPSFix::Quality::Unknown);
 }
 
 TEST(FixSamples, OneSampleASecondPreferringARealFixAndHoldingOverGaps) {

@@ -1,4 +1,3 @@
-#include "CarHeading.h"
 #include "GPSSamples.h"
 #include "HeadingTracker.h"
 
@@ -77,32 +76,4 @@ TEST(HeadingTracker, TurnsOnlyWhenTheCarHasMovedFarEnough) {
     EXPECT_NEAR(tracker.update({47, 10}).value_or(-1), 0, 1e-6) << "a seek keeps the heading";
     EXPECT_NEAR(tracker.update({47, 10 + 5 * step}).value_or(-1), 90, 1e-3);
     EXPECT_NEAR(tracker.heading().value_or(-1), 90, 1e-3);
-}
-
-TEST(CarHeading, TheStatedHeadingWinsOnlyWhileTheCarMoves) {
-    HeadingTracker tracker;  // heads due east after these two places
-    tracker.update({47, 10});
-    tracker.update({47, 10.001});
-    const struct {
-        const char* what;
-        std::optional<double> stated;
-        double metresPerSecond;
-        std::optional<double> expected;
-    } cases[] = {
-        {"stated, driving", 12.5, 10, 12.5},
-        {"stated, due north", 0.0, 10, 0.0},
-        {"stated, parked: course noise", 200.0, 0.5, 90},
-        {"not stated", std::nullopt, 10, 90},
-    };
-    for (const auto& c : cases) {
-        GPSFix fix;
-        fix.latitude = 47;
-        fix.longitude = 10.001;
-        fix.speedMetresPerSecond = c.metresPerSecond;
-        fix.headingDegrees = c.stated;
-        const std::optional<double> heading = carHeading(GPSData::fromFix(fix), tracker);
-        ASSERT_TRUE(heading) << c.what;
-        EXPECT_NEAR(*heading, *c.expected, 1e-3) << c.what;
-    }
-    EXPECT_EQ(carHeading(GPSData{}, HeadingTracker{}), std::nullopt) << "a camera block before the car moves";
 }
