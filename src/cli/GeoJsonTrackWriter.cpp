@@ -14,6 +14,10 @@ void appendPosition(std::string& out, const GPSData& sample) {
     appendJsonNumber(out, sample.Longitude());
     out += ", ";
     appendJsonNumber(out, sample.Latitude());
+    if (const auto altitude = sample.altitudeMetres()) {
+        out += ", ";
+        appendJsonNumber(out, *altitude);
+    }
     out += ']';
 }
 

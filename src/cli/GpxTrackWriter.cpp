@@ -1,5 +1,6 @@
 #include "GpxTrackWriter.h"
 
+#include "FixQualityName.h"
 #include "MapPosition.h"
 #include "NumberText.h"
 #include "SampleTime.h"
@@ -13,12 +14,40 @@ namespace {
 // The stored speed is in miles per hour; a mile is exactly 1609.344 m.
 constexpr double kMetresPerSecondPerMPH = 0.44704;
 
+// Garmin's extension: the speed, and the heading where the format gave one (the camera record's
+// own angle is not trusted: the blocks leave it zero).
+void appendExtension(std::string& out, const GPSData& sample) {
+    // The extension's schema allows no negative speed; a damaged record's speed is left out.
+    const float metresPerSecond = float(double(sample.SpeedMPH()) * kMetresPerSecondPerMPH);
+    const bool hasSpeed = std::isfinite(metresPerSecond) && metresPerSecond >= 0.0f;
+    const std::optional<float> course = sample.heading();
+    if (!hasSpeed && !course) return;
+    out += "        <extensions><gpxtpx:TrackPointExtension>";
+    if (hasSpeed) {
+        out += "<gpxtpx:speed>";
+        appendShortestDecimal(out, metresPerSecond);
+        out += "</gpxtpx:speed>";
+    }
+    if (course) {
+        out += "<gpxtpx:course>";
+        appendShortestDecimal(out, *course);
+        out += "</gpxtpx:course>";
+    }
+    out += "</gpxtpx:TrackPointExtension></extensions>\n";
+}
+
 void appendPoint(std::string& out, const GPSData& sample, SpeedUnit unit, std::string_view unitName) {
     out += "      <trkpt lat=\"";
     appendShortestDecimal(out, sample.Latitude());
     out += "\" lon=\"";
     appendShortestDecimal(out, sample.Longitude());
     out += "\">\n";
+    // GPX fixes the order of a point's elements: ele, time, ..., desc, ..., fix, ..., extensions.
+    if (const auto altitude = sample.altitudeMetres()) {
+        out += "        <ele>";
+        appendShortestDecimal(out, *altitude);
+        out += "</ele>\n";
+    }
     if (hasCalendarTime(sample.data().rmcinfo)) {
         out += "        <time>";
         appendIsoDateTime(out, sample.data().rmcinfo);
@@ -29,13 +58,12 @@ void appendPoint(std::string& out, const GPSData& sample, SpeedUnit unit, std::s
     out += ' ';
     appendXmlEscaped(out, unitName);
     out += "</desc>\n";
-    // The extension's schema allows no negative speed; a damaged record's speed is left out.
-    const float metresPerSecond = float(double(sample.SpeedMPH()) * kMetresPerSecondPerMPH);
-    if (std::isfinite(metresPerSecond) && metresPerSecond >= 0.0f) {
-        out += "        <extensions><gpxtpx:TrackPointExtension><gpxtpx:speed>";
-        appendShortestDecimal(out, metresPerSecond);
-        out += "</gpxtpx:speed></gpxtpx:TrackPointExtension></extensions>\n";
+    if (const std::string_view fix = fixQualityName(sample.fixQuality()); !fix.empty()) {
+        out += "        <fix>";
+        out += fix;
+        out += "</fix>\n";
     }
+    appendExtension(out, sample);
     out += "      </trkpt>\n";
 }
 

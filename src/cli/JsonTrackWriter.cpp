@@ -1,5 +1,6 @@
 #include "JsonTrackWriter.h"
 
+#include "FixQualityName.h"
 #include "JsonText.h"
 #include "NumberText.h"
 
@@ -30,6 +31,23 @@ constexpr SampleMember kSampleMembers[] = {
     {"second", [](std::string& o, const GPSData& s) { appendUnsigned(o, s.data().rmcinfo.Second); }},
 };
 
+// What only some formats state follows the record's members, and only on samples that have it,
+// so that the camera blocks' documents stay as they were.
+void appendStatedMembers(std::string& out, const GPSData& sample) {
+    if (const auto altitude = sample.altitudeMetres()) {
+        out += ", \"altitude\": ";
+        appendJsonNumber(out, *altitude);
+    }
+    if (const auto heading = sample.heading()) {
+        out += ", \"heading\": ";
+        appendJsonNumber(out, *heading);
+    }
+    if (const std::string_view fix = fixQualityName(sample.fixQuality()); !fix.empty()) {
+        out += ", \"fix\": ";
+        appendJsonString(out, fix);
+    }
+}
+
 void appendSampleObject(std::string& out, const GPSData& sample) {
     out += '{';
     for (const SampleMember& member : kSampleMembers) {
@@ -39,6 +57,7 @@ void appendSampleObject(std::string& out, const GPSData& sample) {
         out += "\": ";
         member.append(out, sample);
     }
+    appendStatedMembers(out, sample);
     out += '}';
 }
 

@@ -19,8 +19,17 @@ std::vector<const GPSData*> drawablePoints(const GPSTrack& track) {
     return points;
 }
 
+// Heights above sea level place the track in the air only when every point has one; otherwise it
+// stays on the ground, where a missing height written as 0 does no harm.
+bool everyPointHasAltitude(const std::vector<const GPSData*>& points) {
+    for (const GPSData* point : points)
+        if (!point->altitudeMetres()) return false;
+    return true;
+}
+
 void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, SpeedUnit unit) {
     out << "      <gx:Track>\n";
+    if (everyPointHasAltitude(points)) out << "        <altitudeMode>absolute</altitudeMode>\n";
     for (const GPSData* point : points) {
         out << "        <when>";
         appendIsoDateTime(out.text(), point->data().rmcinfo);
@@ -33,7 +42,12 @@ void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, Sp
         appendShortestDecimal(text, point->Longitude());
         text += ' ';
         appendShortestDecimal(text, point->Latitude());
-        text += " 0</gx:coord>\n";
+        text += ' ';
+        if (const auto altitude = point->altitudeMetres())
+            appendShortestDecimal(text, *altitude);
+        else
+            text += '0';
+        text += "</gx:coord>\n";
         out.flushWhenFull();
     }
     out << "        <ExtendedData>\n"

@@ -3,6 +3,7 @@
 
 #include "MainWindowDelegate.h"
 
+#include "CarHeading.h"
 #include "CarMarkerView.h"
 #include "GPSUtils.h"
 #include "Geodesy.h"
@@ -62,12 +63,12 @@ private:
 
 void MainWindowDelegate::showCarLocation(const GPSData& data, int64_t index) {
     if (outlets_.mapView == nullptr) return;
-    // The car points where it went from the sample before; a new track, or a jump in it, starts
-    // the comparison afresh.
+    // The car points where it went from the sample before, unless the format says; a new track, or
+    // a jump in it, starts the comparison afresh.
     if (index == 0 || index != lastCarIndex_ + 1) headingTracker_.restart();
     lastCarIndex_ = index;
     if (const auto place = samplePlace(data)) headingTracker_.update(*place);
-    MapViewRoute route(*outlets_.mapView, car_, headingTracker_.heading());
+    MapViewRoute route(*outlets_.mapView, car_, carHeading(data, headingTracker_));
     routeTracker_.showCarLocation(data, index, route);
 }
 

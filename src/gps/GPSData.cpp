@@ -9,6 +9,7 @@
 #include <bit>
 #include <chrono>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -33,6 +34,12 @@ std::string formatTriple(uint32_t a, uint32_t b, uint32_t c, char separator) {
 }
 
 float signFrom(char indicator, char positive) { return indicator == positive ? 1.0f : -1.0f; }
+
+// A value only where it survives the narrowing: a float past its range would export as "inf".
+std::optional<float> finiteFloat(std::optional<double> value) {
+    if (!value || !(std::fabs(*value) <= double(std::numeric_limits<float>::max()))) return std::nullopt;
+    return float(*value);
+}
 
 bool useKMH() { return GPSUtils::sharedUtils().unitType() != 0; }
 
@@ -99,6 +106,9 @@ GPSData GPSData::fromFix(const GPSFix& fix) {
     const double knots = fix.speedMetresPerSecond.value_or(0.0) * 3600.0 / 1852.0;
     f.Speed = std::isfinite(knots) ? float(std::clamp(knots, 0.0, double(kSpeedCap))) : 0.0f;
     f.Angle = float(fix.headingDegrees.value_or(0.0));
+    sample.heading_ = finiteFloat(fix.headingDegrees);
+    sample.altitudeMetres_ = finiteFloat(fix.altitudeMetres);
+    sample.fixQuality_ = fix.quality;
     if (fix.clockSeconds && std::isfinite(*fix.clockSeconds) && std::fabs(*fix.clockSeconds) < 1e11) {
         using namespace std::chrono;
         const sys_seconds instant{seconds{int64_t(std::floor(*fix.clockSeconds))}};

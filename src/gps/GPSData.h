@@ -5,6 +5,7 @@
 #include "GPSRecord.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 // The three ways cameras encode the classic record, then the other layouts of the same chipset's
@@ -35,6 +36,13 @@ public:
     float Longitude() const;
     GPSDATA data() const { return data_; }
 
+    // What some formats state beyond the camera record, kept beside it so that the record stays
+    // as the camera wrote it. The camera blocks state none of them.
+    std::optional<float> altitudeMetres() const { return altitudeMetres_; }
+    std::optional<float> heading() const { return heading_; }  // degrees clockwise from north
+    // Unknown where the format does not say.
+    GPSFix::Quality fixQuality() const { return fixQuality_; }
+
     std::string SpeedText() const;
     std::string SpeedMPHText() const;
     std::string SpeedKMHText() const;
@@ -57,9 +65,13 @@ public:
     GPSData heldOver() const {
         GPSData held = *this;
         held.data_.rmcinfo.Status = 'V';
+        if (held.fixQuality_ != GPSFix::Quality::Unknown) held.fixQuality_ = GPSFix::Quality::NoFix;
         return held;
     }
 
 private:
     GPSDATA data_{};
+    std::optional<float> altitudeMetres_;
+    std::optional<float> heading_;
+    GPSFix::Quality fixQuality_ = GPSFix::Quality::Unknown;
 };

@@ -173,4 +173,30 @@ TEST(Program, ProbeAndExtractReadGpmfAndSidecars) {
     std::filesystem::remove_all(folder);
 }
 
+// What a format states beyond the camera record reaches the GPX export through the tool: GPMF's
+// altitude (the generator writes 0 m) and 3D fix, a GPX sidecar's course. Every point has them.
+TEST(Program, GpxExportKeepsWhatTheMovieTrackStates) {
+    const struct {
+        const char* generatorOption;
+        const char* choice;
+        std::vector<const char*> everyPointHas;
+    } cases[] = {
+        {"--track", "gpmf", {"<ele>0</ele>", "<fix>3d</fix>"}},
+        {"--sidecar", "gpx", {"<gpxtpx:course>"}},
+    };
+    for (const auto& c : cases) {
+        const TempDir scratch;
+        const std::string movie = (scratch / "clip.mov").string();
+        const CommandResult made =
+            runCommand(quoted(SAMPLEGEN_PROGRAM) + " --layout none " + c.generatorOption + " " + c.choice +
+                       " --size 96x64 --fps 5 --rate 8000 " + quoted(fixture("route10.csv")) + " " + quoted(movie));
+        ASSERT_EQ(made.status, 0) << c.choice;
+        const ProgramResult run = runTool({"extract", "--format", "gpx", movie});
+        ASSERT_EQ(run.exitCode, 0) << c.choice << ": " << run.err;
+        const std::size_t points = occurrences(run.out, "<trkpt ");
+        EXPECT_GE(points, kFixtureSamples) << c.choice;
+        for (const char* stated : c.everyPointHas) EXPECT_EQ(occurrences(run.out, stated), points) << c.choice;
+    }
+}
+
 }  // namespace

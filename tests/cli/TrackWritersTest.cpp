@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <sstream>
+#include <vector>
 
 namespace {
 
@@ -64,6 +65,47 @@ TEST(TrackWriters, DamagedRecordsNeverMakeAnInvalidDocument) {
     }
     // The speed extension does not allow negative speeds, so only the good sample has one.
     EXPECT_EQ(occurrences(render("gpx", {{"a.mov", track}}), "<gpxtpx:speed>"), 1u);
+}
+
+// A fix of a format that states more than the camera record holds; or, with nothing stated, as
+// little as the record.
+GPSData fixSample(double latitude, bool stated) {
+    GPSFix fix;
+    fix.clockSeconds = 1574120714.0;  // 2019-11-18 23:45:14 UTC
+    fix.latitude = latitude;
+    fix.longitude = 20;
+    fix.speedMetresPerSecond = 5;
+    if (stated) {
+        fix.altitudeMetres = 1234.5;
+        fix.headingDegrees = 271.25;
+        fix.quality = GPSFix::Quality::Fix3D;
+    }
+    return GPSData::fromFix(fix);
+}
+
+TEST(TrackWriters, AltitudeHeadingAndFixKindOnlyWhereTheFormatStatedThem) {
+    // The first sample states them all, the second nothing: each text appears once.
+    const GPSTrack mixed = trackOf({fixSample(10, true), fixSample(11, false)});
+    const struct {
+        const char* format;
+        std::vector<const char*> stated;
+    } cases[] = {
+        {"json", {"\"altitude\": 1234.5", "\"heading\": 271.25", "\"fix\": \"3d\""}},
+        {"gpx", {"<ele>1234.5</ele>\n        <time>", "<fix>3d</fix>", "<gpxtpx:course>271.25</gpxtpx:course>"}},
+        {"geojson", {"[20, 10, 1234.5]"}},
+        {"kml", {"<gx:coord>20 10 1234.5</gx:coord>"}},
+    };
+    for (const auto& c : cases) {
+        const std::string text = render(c.format, {{"a.mov", mixed}});
+        for (const char* stated : c.stated) EXPECT_EQ(occurrences(text, stated), 1u) << c.format << ": " << stated;
+    }
+    // The CSV table's columns are fixed: the stated values change nothing in it.
+    EXPECT_EQ(render("csv", {{"a.mov", mixed}}),
+              render("csv", {{"a.mov", trackOf({fixSample(10, false), fixSample(11, false)})}}));
+    // KML lifts the track off the ground only when every point has a height.
+    EXPECT_EQ(occurrences(render("kml", {{"a.mov", mixed}}), "<altitudeMode>"), 0u);
+    const GPSTrack high = trackOf({fixSample(10, true), fixSample(11, true)});
+    EXPECT_EQ(occurrences(render("kml", {{"a.mov", high}}), "<altitudeMode>absolute</altitudeMode>"), 1u);
 }
 
 TEST(TrackWriters, LongTracksLoseNoTextWhereTheOutputIsHandedOn) {

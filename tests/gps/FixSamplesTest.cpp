@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -32,6 +34,36 @@ TEST(GPSDataFromFix, IsTheNormalisedSampleTheReadOutsShow) {
     EXPECT_EQ(sample.TimeText(), "23:45:14");
     EXPECT_EQ(GPSData::fromFix(fixAt(1, 1, GPSFix::Quality::NoFix)).data().rmcinfo.Status, 'V');
     EXPECT_EQ(GPSData::fromFix(GPSFix{}).TimeText(), "00:00:00") << "no clock, no time";
+}
+
+// What the camera record has no room for stays beside it, and only where the format stated it: an
+// export or the car's marker must not mistake a missing height or heading for 0.
+TEST(GPSDataFromFix, KeepsAltitudeHeadingAndFixKindBesideTheRecord) {
+    constexpr double kHuge = 1e300;  // past float's range: would read out as infinity
+    const struct {
+        const char* what;
+        std::optional<double> altitude, heading;
+        GPSFix::Quality quality;
+        std::optional<float> expectedAltitude, expectedHeading;
+    } cases[] = {
+        {"all stated", 1234.5, 271.25, GPSFix::Quality::Fix3D, 1234.5f, 271.25f},
+        {"below sea level, due north", -28.0, 0.0, GPSFix::Quality::Fix2D, -28.0f, 0.0f},
+        {"none stated", {}, {}, GPSFix::Quality::Unknown, {}, {}},
+        {"not numbers", std::nan(""), kHuge, GPSFix::Quality::Fix3D, {}, {}},
+    };
+    for (const auto& c : cases) {
+        GPSFix fix = fixAt(1, 10, c.quality);
+        fix.altitudeMetres = c.altitude;
+        fix.headingDegrees = c.heading;
+        const GPSData sample = GPSData::fromFix(fix);
+        EXPECT_EQ(sample.altitudeMetres(), c.expectedAltitude) << c.what;
+        EXPECT_EQ(sample.heading(), c.expectedHeading) << c.what;
+        EXPECT_EQ(sample.fixQuality(), c.quality) << c.what;
+        // A held-over place is no fix, whatever it was; a format that never said still says nothing.
+        const GPSFix::Quality held = c.quality == GPSFix::Quality::Unknown ? c.quality : GPSFix::Quality::NoFix;
+        EXPECT_EQ(sample.heldOver().fixQuality(), held) << c.what;
+        EXPECT_EQ(sample.heldOver().altitudeMetres(), c.expectedAltitude) << c.what;
+    }
 }
 
 TEST(FixSamples, OneSampleASecondPreferringARealFixAndHoldingOverGaps) {

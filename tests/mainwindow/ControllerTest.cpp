@@ -2,6 +2,7 @@
 // view: transport commands, the entry to play, sound, the playlist, the map, and the button states
 // they leave behind.
 
+#include "CarMarkerView.h"
 #include "ControllerHarness.h"
 
 #include "GPSDataLoader.h"
@@ -357,6 +358,30 @@ TEST_F(ControllerTest, TheMapMenusChoiceIsKeptForTheNextRun) {
     EXPECT_EQ(mapView->tileProvider(), nullptr);
     controller.OnMapSourceChanged("offline");
     EXPECT_EQ(settings.utils().mapSource(), "offline");
+}
+
+// A stated course turns the car while it drives; a parked car's stated course is noise and the
+// bearing of its last move stands.
+TEST_F(ControllerTest, TheCarPointsWhereTheFormatSaysWhileItDrives) {
+    const auto fixAt = [](double longitude, double metresPerSecond, double heading) {
+        GPSFix fix;
+        fix.latitude = 47;
+        fix.longitude = longitude;  // 0.0001 degree east is 7.6 m
+        fix.speedMetresPerSecond = metresPerSecond;
+        fix.headingDegrees = heading;
+        return GPSData::fromFix(fix);
+    };
+    const struct {
+        double longitude, metresPerSecond, stated, expected;
+    } steps[] = {{10.0000, 10, 100, 100}, {10.0001, 10, 100, 100}, {10.0002, 10, 110, 110}, {10.0002, 0, 300, 90}};
+    uint64_t index = 1;  // index 0 starts a movie: no car yet
+    for (const auto& step : steps) {
+        report(fixAt(step.longitude, step.metresPerSecond, step.stated), index);
+        const auto* car = mapView->findChild<CarMarkerView*>();
+        ASSERT_NE(car, nullptr);
+        EXPECT_NEAR(car->heading().value_or(-1), step.expected, 1e-3) << "sample " << index;
+        ++index;
+    }
 }
 
 }  // namespace
