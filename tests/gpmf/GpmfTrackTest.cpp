@@ -3,12 +3,15 @@
 #include "GpmfBytes.h"
 #include "GpmfTrack.h"
 
+#include "RunCommand.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -115,16 +118,15 @@ TEST(GpmfTrack, CameraMovieAgreesWithExiftoolWhenPresent) {
     if (std::system("command -v exiftool >/dev/null 2>&1") != 0) GTEST_SKIP() << "exiftool not installed";
     const std::string command =
         "exiftool -ee -n -a -G3 -s -GPSLatitude -GPSLongitude -GPSSpeed -GPSDateTime '" + kMovie.string() + "'";
-    FILE* pipe = popen(command.c_str(), "r");
-    ASSERT_NE(pipe, nullptr);
+    const CommandResult run = runCommand(command);
+    ASSERT_EQ(run.status, 0);
     std::map<int, std::map<std::string, std::vector<std::string>>> docs;  // payload, tag, values
-    char line[256];
-    while (std::fgets(line, sizeof line, pipe)) {
+    std::istringstream lines(run.output);
+    for (std::string line; std::getline(lines, line);) {
         int doc = 0;
         char tag[64], value[128];
-        if (std::sscanf(line, "[Doc%d] %63s : %127[^\n]", &doc, tag, value) == 3) docs[doc][tag].push_back(value);
+        if (std::sscanf(line.c_str(), "[Doc%d] %63s : %127[^\n]", &doc, tag, value) == 3) docs[doc][tag].push_back(value);
     }
-    pclose(pipe);
 
     const std::vector<GPSFix> fixes = GpmfTrack::readFixes(kMovie);
     const std::vector<GpmfSample> samples = GpmfTrack::samples(*PosixFile::open(kMovie));
