@@ -143,7 +143,10 @@ void MainWindowDelegate::playWithIndex(int64_t index, bool autoPlay) {
     // A file that no longer plays (deleted, or broken since it was added) leaves the engine empty;
     // playing it would come back here to load it again, without end. Its read-outs are idle, not
     // the last clip's.
-    if (entryFailed_) infoPanel().reset();
+    if (entryFailed_) {
+        infoPanel().reset();
+        showPlace(std::nullopt);
+    }
     if (autoPlay && player->IsReady())
         OnPlay(outlets_.btPlay);
     else

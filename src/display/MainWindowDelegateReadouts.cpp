@@ -5,6 +5,7 @@
 #include "GPSInfoPanel.h"
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"
+#include "Geodesy.h"
 #include "SliderFraction.h"
 
 #include <QAbstractButton>
@@ -36,6 +37,7 @@ void MainWindowDelegate::UpdatedGPSInfo(GPSPlayerEngine& /*engine*/, const GPSDa
     }
     holdingReadOuts_ = false;
     infoPanel().show(data);
+    showPlace(samplePlace(data));
     showCarLocation(data, static_cast<int64_t>(index));
 }
 
@@ -49,6 +51,7 @@ void MainWindowDelegate::ResetControls() {
     if (o.btPause != nullptr) o.btPause->setHidden(true);
     if (o.txtTitle != nullptr) o.txtTitle->clear();
     infoPanel().reset();
+    showPlace(std::nullopt);
     if (o.durationSlider != nullptr) setSliderFraction(*o.durationSlider, 0.0);
 }
 

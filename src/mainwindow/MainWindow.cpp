@@ -68,6 +68,8 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& a
         .actionContinuousPlay = ui.actionContinuousPlay,
         .rateItems = {ui.actionRate025, ui.actionRate05, ui.actionRate1, ui.actionRate2, ui.actionRate4,
                       ui.actionRate8},
+        .actionCopyPosition = ui.actionCopyPosition,
+        .actionOpenPosition = ui.actionOpenPosition,
     };
 }
 

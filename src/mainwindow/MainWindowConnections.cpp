@@ -122,4 +122,6 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
     QObject::connect(ui.mapTileFolder, &QAction::triggered, c, [c] { c->OnOpenMapFile(true); });
 
     QObject::connect(ui.actionAbout, &QAction::triggered, c, [c] { c->OnShowAbout(); });
+    QObject::connect(ui.actionCopyPosition, &QAction::triggered, c, [c] { c->OnCopyPosition(); });
+    QObject::connect(ui.actionOpenPosition, &QAction::triggered, c, [c] { c->OnOpenPosition(); });
 }

@@ -5,6 +5,7 @@
 
 #include "GPSControlViewDelegate.h"
 #include "GPSPlayerViewDelegate.h"
+#include "Geodesy.h"
 #include "HeadingTracker.h"
 #include "MainWindowOutlets.h"
 #include "MapViewDelegate.h"
@@ -119,6 +120,12 @@ public:
     void ResetControls();
     void RefreshUnits();
 
+    // The position of the sample on screen (display/MainWindowDelegatePosition.cpp): "lat, lon"
+    // on the clipboard, or the place on OpenStreetMap in the browser. Nothing without a place.
+    void OnCopyPosition();
+    void OnOpenPosition();
+    const std::optional<GeoPoint>& shownPlace() const { return shownPlace_; }
+
     // Trips (mainwindow/MainWindowDelegateTrips.cpp): the clips' tracks read in the background,
     // the trips they form, continuous play through a trip, and seeking anywhere in it.
     void OnContinuousPlayChanged(bool on);
@@ -167,6 +174,9 @@ private:
     void useTileSource(const std::string& source);
     // Adds a scan's movies when it finishes, with a progress dialog if it takes a while.
     void watchScan(MovieScan* scan);
+
+    // The place the read-outs show, for the position commands; absent when they are idle.
+    void showPlace(std::optional<GeoPoint> place);
 
     // Trips.
     void refreshTrips();
@@ -217,6 +227,7 @@ private:
     bool holdingReadOuts_ = false;
     // The loaded entry was chosen but would not open.
     bool entryFailed_ = false;
+    std::optional<GeoPoint> shownPlace_;
     bool quitAtEnd_ = false;
     bool quitting_ = false;
 };

@@ -79,4 +79,7 @@ struct MainWindowOutlets {
     QAction* actionContinuousPlay = nullptr;
     // The Playback menu's rates, each carrying its rate as data; the one playing is checked.
     std::array<QAction*, 6> rateItems{};
+    // Edit: the shown place as text, or in the browser; enabled while the read-outs show a place.
+    QAction* actionCopyPosition = nullptr;
+    QAction* actionOpenPosition = nullptr;
 };

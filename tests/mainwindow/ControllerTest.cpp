@@ -11,9 +11,12 @@
 #include "SliderFraction.h"
 #include "VideoTrackProbe.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QImage>
 #include <QThreadPool>
 
@@ -382,6 +385,34 @@ TEST_F(ControllerTest, TheCarPointsWhereTheFormatSaysWhileItDrives) {
         EXPECT_NEAR(car->heading().value_or(-1), step.expected, 1e-3) << "sample " << index;
         ++index;
     }
+}
+
+}  // namespace
+
+namespace {
+
+// The Edit menu's position: the shown sample's place on the clipboard with six decimals, and
+// nothing to copy once the read-outs are idle.
+TEST_F(ControllerTest, CopyPositionPutsTheShownPlaceOnTheClipboard) {
+    QAction copy, open;
+    MainWindowOutlets o = controller.outlets();
+    o.actionCopyPosition = &copy;
+    o.actionOpenPosition = &open;
+    controller.setOutlets(o);
+    GPSFix fix;
+    // Values a single-precision sample holds exactly.
+    fix.latitude = -33.859375;
+    fix.longitude = 151.21875;
+    QGuiApplication::clipboard()->setText("before");
+    report(GPSData::fromFix(fix), 1);
+    EXPECT_TRUE(copy.isEnabled() && open.isEnabled());
+    controller.OnCopyPosition();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "-33.859375, 151.218750");
+    controller.OnStop(nullptr);
+    EXPECT_FALSE(copy.isEnabled() || open.isEnabled());
+    QGuiApplication::clipboard()->setText("after");
+    controller.OnCopyPosition();
+    EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "after");
 }
 
 }  // namespace
