@@ -124,7 +124,6 @@ public:
     // on the clipboard, or the place on OpenStreetMap in the browser. Nothing without a place.
     void OnCopyPosition();
     void OnOpenPosition();
-    const std::optional<GeoPoint>& shownPlace() const { return shownPlace_; }
 
     // Trips (mainwindow/MainWindowDelegateTrips.cpp): the clips' tracks read in the background,
     // the trips they form, continuous play through a trip, and seeking anywhere in it.
@@ -133,11 +132,9 @@ public:
     void RefreshTripSummary();
     // Seconds on the timeline's line (the loaded clip's, or its trip's under continuous play).
     void seekTimeline(double seconds);
-    const TripIndex& tripIndex() const { return tripIndex_; }
     ClipCatalog* clipCatalog() const { return clipCatalog_; }
     // The playlist rows the timeline spans: the loaded clip, or its whole trip under continuous play.
     TripSpan timelineSpan() const { return timelineSpan_; }
-    double timelinePosition() const;
 
     // The map (display/).
     // The route driven so far and the car, for every sample the player reports.
@@ -217,7 +214,6 @@ private:
     TripIndex tripIndex_;
     TripSpan timelineSpan_;
     TripClock timelineClock_;
-    double timelinePosition_ = 0;
     // Files that would not open when they were chosen, and why.
     std::map<std::filesystem::path, QString> clipProblems_;
     // Set by the end of a clip for the load of the next clip of its trip, and spent by that load.

@@ -191,14 +191,11 @@ void MainWindowDelegate::showTimelineCursor(double seconds) {
     if (outlets_.timeline != nullptr) outlets_.timeline->setPosition(seconds);
 }
 
-double MainWindowDelegate::timelinePosition() const { return timelinePosition_; }
-
 void MainWindowDelegate::showTimelinePosition(double clipSeconds) {
     double seconds = 0;
     if (timelineSpan_.count > 0 && curIndex >= static_cast<int64_t>(timelineSpan_.first) &&
         static_cast<std::size_t>(curIndex) < timelineSpan_.first + timelineSpan_.count && std::isfinite(clipSeconds))
         seconds = timelineClock_.tripSecondsAt(static_cast<std::size_t>(curIndex) - timelineSpan_.first, clipSeconds);
-    timelinePosition_ = seconds;
     if (outlets_.txtElapsed != nullptr)
         outlets_.txtElapsed->setText(qText(durationText(seconds)) + QStringLiteral(" / ") +
                                      qText(durationText(timelineClock_.totalSeconds())));
