@@ -1,5 +1,6 @@
 #include "BenchProbe.h"
 
+#include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
@@ -33,6 +34,12 @@ BenchProbe::~BenchProbe() { setFirstFrameListener(nullptr); }
 
 void BenchProbe::firstFrameShown() {
     qCDebug(lcBench).noquote() << "first-frame monotonic-us=" + QString::number(monotonicMicroseconds());
+    if (!watchingPlaylist_ && playlist_ != nullptr && playlist_->model() != nullptr && lcBench().isDebugEnabled()) {
+        watchingPlaylist_ = true;
+        QAbstractItemModel* model = playlist_->model();
+        connect(model, &QAbstractItemModel::modelReset, this, &BenchProbe::logPlaylistRows);
+        connect(model, &QAbstractItemModel::rowsInserted, this, &BenchProbe::logPlaylistRows);
+    }
     // Queued: the frame is being painted now, and the paint should finish first.
     if (quitAtFirstFrame_)
         QMetaObject::invokeMethod(QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
@@ -40,6 +47,12 @@ void BenchProbe::firstFrameShown() {
 
 void BenchProbe::frameShown() {
     qCDebug(lcBenchFrames).noquote() << "painted-frame monotonic-us=" + QString::number(monotonicMicroseconds());
+}
+
+void BenchProbe::logPlaylistRows() {
+    if (playlist_ == nullptr || playlist_->model() == nullptr) return;
+    qCDebug(lcBench).noquote() << "playlist-rows count=" + QString::number(playlist_->model()->rowCount())
+                               << "monotonic-us=" + QString::number(monotonicMicroseconds());
 }
 
 bool BenchProbe::eventFilter(QObject* watched, QEvent* event) {

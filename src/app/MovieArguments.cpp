@@ -15,3 +15,14 @@ std::vector<std::filesystem::path> movieArguments(int argc, char** argv) {
     }
     return movies;
 }
+
+std::vector<std::filesystem::path> absoluteArguments(const std::vector<std::filesystem::path>& arguments) {
+    std::vector<std::filesystem::path> absolute;
+    absolute.reserve(arguments.size());
+    for (const auto& argument : arguments) {
+        std::error_code error;
+        const std::filesystem::path whole = std::filesystem::absolute(argument, error);
+        absolute.push_back(error ? argument : whole.lexically_normal());
+    }
+    return absolute;
+}

@@ -8,3 +8,7 @@
 // argv after QApplication has taken out its own options. Our options take no values, so every
 // argument that is not an option names a movie; after "--" all of them do.
 std::vector<std::filesystem::path> movieArguments(int argc, char** argv);
+
+// The arguments as whole paths against this process's working folder, for a window that has
+// another one.
+std::vector<std::filesystem::path> absoluteArguments(const std::vector<std::filesystem::path>& arguments);

@@ -3,11 +3,17 @@
 #include "AppDelegate.h"
 #include "ApplicationIcon.h"
 #include "BenchProbe.h"
+#include "BringToFront.h"
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSPlayerView.h"
+#include "GPSTableView.h"
 #include "GPSUtils.h"
+#include "InstanceClient.h"
+#include "InstanceServer.h"
+#include "InstanceSocketName.h"
 #include "MainWindow.h"
 #include "MovieArguments.h"
+#include "MprisService.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -38,7 +44,18 @@ int main(int argc, char** argv) {
         QStringLiteral("quit-at-first-frame"),
         QStringLiteral("Quit once the first movie's first frame is on screen (for timing launches)."));
     parser.addOption(quitAtFirstFrame);
+    const QCommandLineOption newWindow(
+        QStringLiteral("new-window"),
+        QStringLiteral("Open a window of its own instead of adding the movies to the one already open."));
+    parser.addOption(newWindow);
     parser.process(app);
+
+    // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
+    const std::vector<std::filesystem::path> movies = movieArguments(argc, argv);
+    // A timed run must measure its own window, never hand over to one that happens to be open.
+    const bool ownWindow = parser.isSet(newWindow) || parser.isSet(quitAtEnd) || parser.isSet(quitAtFirstFrame);
+    const QString instanceSocket = instanceSocketName(currentInstanceSocketPlace());
+    if (!ownWindow && InstanceClient::handOver(instanceSocket, absoluteArguments(movies))) return 0;
 
     std::optional<BenchProbe> benchProbe;
     if (BenchProbe::wanted(parser.isSet(quitAtFirstFrame))) benchProbe.emplace(parser.isSet(quitAtFirstFrame));
@@ -50,8 +67,18 @@ int main(int argc, char** argv) {
     // A desktop activates a new window itself; without a window manager (a bare X server) nobody
     // would, and the window's set-up waits for its first activation.
     window.activateWindow();
-    // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
-    window.controller().openArguments(movieArguments(argc, argv));
+    window.controller().openArguments(movies);
+    // Later starts add their movies here, as a drop on the window would.
+    InstanceServer instanceServer;
+    if (!ownWindow && instanceServer.listen(instanceSocket)) {
+        QObject::connect(&instanceServer, &InstanceServer::pathsArrived, &window,
+                         [&window](const std::vector<std::filesystem::path>& paths) {
+                             window.controller().openArguments(paths);
+                             bringToFront(window);
+                         });
+    }
+    MprisService::publish(window.controller(), window);
+    if (benchProbe) benchProbe->watchPlaylist(window.findChild<GPSTableView*>());
     const int status = QApplication::exec();
     // Settings are written in the background; the last change must be on disk before we go.
     settings.flush();

@@ -131,6 +131,7 @@ void GPSPlayerEngine::Seek(double fraction) {
     if (!target) return;
     awaitPausedMove();
     mediaPlayer_->seek(*target);
+    emit seeked(target->seconds());
 }
 
 void GPSPlayerEngine::SeekToSeconds(double seconds) {
@@ -140,6 +141,7 @@ void GPSPlayerEngine::SeekToSeconds(double seconds) {
     if (!(within < 1e12)) return;
     awaitPausedMove();
     mediaPlayer_->seek(MediaTime::make(std::llround(within * 1000.0), 1000));
+    emit seeked(within);
 }
 
 void GPSPlayerEngine::StepFrame(bool forward) {

@@ -93,6 +93,10 @@ public:
     // The speed text of the current sample, "00.00" when there is none.
     std::string currentSpeedText() const;
 
+signals:
+    // After every seek asked of the player (not frame steps): seconds is where it goes.
+    void seeked(double seconds);
+
 private:
     void tick();
     // While paused: the playback time has moved since a seek or a frame step was asked for.

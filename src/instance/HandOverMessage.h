@@ -1,0 +1,31 @@
+#pragma once
+// The message a second start of the program sends the running one: the absolute paths it was
+// given, as their bytes (a Linux file name need not be UTF-8). Framed with its own length so the
+// receiver knows when it has all of it; every length read back is checked against the bytes there.
+//
+//   "DTH1"  body length (u32, big-endian)  path count (u32)  { path length (u32)  path bytes }...
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <filesystem>
+#include <vector>
+
+class HandOverMessage {
+public:
+    // Larger messages are refused whole: no hand-over names that many clips.
+    static constexpr uint32_t kMaxBodyBytes = 4 * 1024 * 1024;
+    static constexpr uint32_t kMaxPathBytes = 4096;
+
+    enum class Status { Incomplete, Complete, Invalid };
+    struct Decoded {
+        Status status = Status::Incomplete;
+        std::vector<std::filesystem::path> paths;  // only when Complete
+    };
+
+    // Paths that are empty, too long or hold a NUL byte are left out.
+    static QByteArray encode(const std::vector<std::filesystem::path>& paths);
+    // Incomplete while `bytes` may still grow into a message; Invalid once they cannot, or when a
+    // path is not absolute.
+    static Decoded decode(const QByteArray& bytes);
+};

@@ -1,0 +1,31 @@
+#pragma once
+// The running window's end of the hand-over: listens on the instance socket and reports the paths
+// each later start sends. A socket left by a program that died is taken over.
+
+#include <QLocalServer>
+#include <QObject>
+
+#include <filesystem>
+#include <vector>
+
+class QLocalSocket;
+
+class InstanceServer final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit InstanceServer(QObject* parent = nullptr);
+
+    // Call only once nobody answered on `name`: a socket file still there is stale and goes.
+    bool listen(const QString& name);
+
+signals:
+    // Absolute paths, possibly none (a start without arguments only brings the window forward).
+    void pathsArrived(const std::vector<std::filesystem::path>& paths);
+
+private:
+    void accept();
+    void read(QLocalSocket& socket);
+
+    QLocalServer server_;
+};
