@@ -12,7 +12,8 @@ constexpr qsizetype kHeaderBytes = 8;  // magic and body length
 constexpr qsizetype kLengthBytes = 4;
 
 bool sendable(const std::string& bytes) {
-    return !bytes.empty() && bytes.size() <= HandOverMessage::kMaxPathBytes && bytes.find('\0') == std::string::npos;
+    return !bytes.empty() && bytes.front() == '/' && bytes.size() <= HandOverMessage::kMaxPathBytes &&
+           bytes.find('\0') == std::string::npos;
 }
 
 void appendLength(QByteArray& out, uint32_t value) {

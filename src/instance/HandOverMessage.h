@@ -23,7 +23,7 @@ public:
         std::vector<std::filesystem::path> paths;  // only when Complete
     };
 
-    // Paths that are empty, too long or hold a NUL byte are left out.
+    // Paths that are not absolute, too long or hold a NUL byte are left out.
     static QByteArray encode(const std::vector<std::filesystem::path>& paths);
     // Incomplete while `bytes` may still grow into a message; Invalid once they cannot, or when a
     // path is not absolute.

@@ -41,7 +41,8 @@ MprisPlayerState MprisPlayerLink::state() const {
     const MainWindowOutlets& outlets = controller_.outlets();
     state.loaded = player != nullptr && player->IsReady();
     state.playing = state.loaded && player->IsPlaying();
-    state.rate = player != nullptr ? player->speed() : 1.0;
+    // Paused, the player's rate is 0; Play resumes at 1, which is what a client should show.
+    state.rate = state.playing ? player->speed() : 1.0;
     if (player != nullptr && player->muted())
         state.volume = 0.0;
     else if (outlets.volumeSlider != nullptr)

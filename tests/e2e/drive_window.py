@@ -16,6 +16,7 @@ import argparse
 import csv
 import os
 import re
+import shutil
 import signal
 import subprocess
 import sys
@@ -525,12 +526,81 @@ class Session:
         self.shoot("frame-step")
         print(f"e2e: . steps one frame, {before:.3f} s to {after:.3f} s")
 
+    # Media keys: the desktop's controls reach the player over the session bus, as playerctl does.
+
+    def playerctl(self, *arguments):
+        return run("playerctl", "--player=dashtrack", *arguments).strip()
+
+    def playerctl_status(self, expected):
+        return wait_for(f"playerctl status {expected}", lambda: ((s := self.playerctl("status")) == expected, s))
+
+    def media_keys_drive_the_player(self):
+        players = run("playerctl", "--list-all").split()
+        if "dashtrack" not in players:
+            raise Failure(f"expected playerctl to list dashtrack; saw {players}")
+        self.playerctl_status("Paused")
+        self.playerctl("play-pause")
+        self.playerctl_status("Playing")
+        wait_for("the Pause button after play-pause from playerctl", lambda: (self.playing(), self.buttons()))
+        self.playerctl("play-pause")
+        self.playerctl_status("Paused")
+        wait_for("the Play button after play-pause from playerctl", lambda: (self.paused(), self.buttons()))
+
+        clip = self.current_clip()
+        title = self.playerctl("metadata", "xesam:title")
+        url = self.playerctl("metadata", "xesam:url")
+        length = int(self.playerctl("metadata", "mpris:length")) / 1e6
+        if title != clip.name or not (url.startswith("file:///") and url.endswith("/" + clip.name)):
+            raise Failure(f"expected the metadata of {clip.name}; saw title {title!r}, url {url!r}")
+        if abs(length - clip.seconds) > 0.5:
+            raise Failure(f"expected a length of {clip.seconds} s for {clip.name}; saw {length:.3f} s")
+
+        target = clip.seconds / 2
+        self.playerctl("position", f"{target}")
+        wait_for(f"playerctl position {target} s",
+                 lambda: (abs((p := float(self.playerctl("position"))) - target) < 0.3, p))
+        wait_for(f"the Position slider at {target} s of {clip.seconds}",
+                 lambda: (abs((p := self.window.position()) * clip.seconds - target) < 0.5, p * clip.seconds))
+
+        index = self.clips.index(clip)
+        command, expected = ("next", self.clips[index + 1]) if index + 1 < len(self.clips) else \
+            ("previous", self.clips[index - 1])
+        self.playerctl(command)
+        wait_for(f"{command} from playerctl to load {expected.name}",
+                 lambda: (self.current_clip() == expected, self.window.text("Title")))
+        wait_for(f"the metadata of {expected.name}",
+                 lambda: ((t := self.playerctl("metadata", "xesam:title")) == expected.name, t))
+        self.shoot("media-keys")
+        print(f"e2e: playerctl plays, pauses, reads {clip.name}'s metadata, sets the position, "
+              f"and {command} loads {expected.name}")
+
+    def later_start_adds_to_this_window(self):
+        table = self.window.named("Playlist", (pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE_TABLE))
+
+        def rows():
+            table.clear_cache()
+            return table.queryTable().nRows
+        before = rows()
+        later = Path(self.args.open[0]).parent / "later"
+        later.mkdir(exist_ok=True)
+        name = "2026_1115_090000_0006.MOV"
+        shutil.copyfile(Path(self.args.open[0]) / self.clips[-1].name, later / name)
+        # A name relative to the later start's own folder: the window is told the whole path.
+        second = subprocess.run([self.args.app, name], cwd=later, capture_output=True, text=True, timeout=DEADLINE)
+        if second.returncode != 0 or second.stdout or second.stderr:
+            raise Failure(f"expected the later start to hand over quietly and exit 0; saw status "
+                          f"{second.returncode}, output {second.stdout + second.stderr!r}")
+        wait_for(f"the playlist to grow from {before} to {before + 1} rows", lambda: ((n := rows()) == before + 1, n))
+        self.shoot("later-start-added")
+        print(f"e2e: a later start added {name} to the running window's playlist and exited")
+
     def run(self):
         self.window = Window(self.process)
         for step in (self.first_clip_plays, self.space_pauses_and_plays, self.right_steps_ten_seconds,
                      self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back,
                      self.active_and_inactive, self.about_over_the_window, self.continuous_play_carries_the_readouts,
-                     self.timeline_click_seeks_while_paused, self.period_steps_one_frame):
+                     self.timeline_click_seeks_while_paused, self.period_steps_one_frame,
+                     self.media_keys_drive_the_player, self.later_start_adds_to_this_window):
             try:
                 step()
             except Failure:
