@@ -49,6 +49,10 @@ void BenchProbe::frameShown() {
     qCDebug(lcBenchFrames).noquote() << "painted-frame monotonic-us=" + QString::number(monotonicMicroseconds());
 }
 
+void BenchProbe::handOverArrived() {
+    qCDebug(lcBench).noquote() << "hand-over monotonic-us=" + QString::number(monotonicMicroseconds());
+}
+
 void BenchProbe::logPlaylistRows() {
     if (playlist_ == nullptr || playlist_->model() == nullptr) return;
     qCDebug(lcBench).noquote() << "playlist-rows count=" + QString::number(playlist_->model()->rowCount())

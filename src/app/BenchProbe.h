@@ -26,6 +26,8 @@ public:
     void frameShown() override;
     // The playlist table to watch; its model is there once the first frame is.
     void watchPlaylist(QAbstractItemView* playlist) { playlist_ = playlist; }
+    // A later start's paths have arrived, before the window adds them.
+    void handOverArrived();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -26,3 +26,11 @@ std::vector<std::filesystem::path> absoluteArguments(const std::vector<std::file
     }
     return absolute;
 }
+
+std::optional<std::vector<std::filesystem::path>> plainMovieArguments(int argc, char** argv) {
+    for (int i = 1; i < argc && argv[i] != nullptr; ++i) {
+        if (std::strcmp(argv[i], "--") == 0) break;
+        if (argv[i][0] == '-' && argv[i][1] != '\0') return std::nullopt;
+    }
+    return movieArguments(argc, argv);
+}

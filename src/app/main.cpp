@@ -1,4 +1,5 @@
-// dashtrack: the main window, with the movies named on the command line.
+// dashtrack-window: the main window, with the movies named on the command line. The dashtrack
+// launcher starts it when no window of this session takes the movies.
 
 #include "AppDelegate.h"
 #include "ApplicationIcon.h"
@@ -54,7 +55,8 @@ int main(int argc, char** argv) {
     const std::vector<std::filesystem::path> movies = movieArguments(argc, argv);
     // A timed run must measure its own window, never hand over to one that happens to be open.
     const bool ownWindow = parser.isSet(newWindow) || parser.isSet(quitAtEnd) || parser.isSet(quitAtFirstFrame);
-    const QString instanceSocket = instanceSocketName(currentInstanceSocketPlace());
+    // The launcher has tried already when it started us; started directly, we try here.
+    const std::string instanceSocket = instanceSocketName(currentInstanceSocketPlace());
     if (!ownWindow && InstanceClient::handOver(instanceSocket, absoluteArguments(movies))) return 0;
 
     std::optional<BenchProbe> benchProbe;
@@ -72,7 +74,8 @@ int main(int argc, char** argv) {
     InstanceServer instanceServer;
     if (!ownWindow && instanceServer.listen(instanceSocket)) {
         QObject::connect(&instanceServer, &InstanceServer::pathsArrived, &window,
-                         [&window](const std::vector<std::filesystem::path>& paths) {
+                         [&window, &benchProbe](const std::vector<std::filesystem::path>& paths) {
+                             if (benchProbe) benchProbe->handOverArrived();
                              window.controller().openArguments(paths);
                              bringToFront(window);
                          });

@@ -2,6 +2,7 @@
 
 #include "HandOverMessage.h"
 
+#include <QFile>
 #include <QLocalSocket>
 #include <QTimer>
 
@@ -18,7 +19,8 @@ InstanceServer::InstanceServer(QObject* parent) : QObject(parent) {
     connect(&server_, &QLocalServer::newConnection, this, &InstanceServer::accept);
 }
 
-bool InstanceServer::listen(const QString& name) {
+bool InstanceServer::listen(const std::string& socketPath) {
+    const QString name = QFile::decodeName(socketPath.c_str());
     if (server_.listen(name)) return true;
     if (server_.serverError() != QAbstractSocket::AddressInUseError) return false;
     QLocalServer::removeServer(name);
@@ -38,7 +40,7 @@ void InstanceServer::accept() {
 void InstanceServer::read(QLocalSocket& socket) {
     // The socket's own buffer holds what came so far; nothing is taken until it is all there.
     const QByteArray bytes = socket.peek(socket.bytesAvailable());
-    const HandOverMessage::Decoded message = HandOverMessage::decode(bytes);
+    const HandOverMessage::Decoded message = HandOverMessage::decode(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
     switch (message.status) {
     case HandOverMessage::Status::Incomplete:
         return;

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 class QLocalSocket;
@@ -16,8 +17,9 @@ class InstanceServer final : public QObject {
 public:
     explicit InstanceServer(QObject* parent = nullptr);
 
-    // Call only once nobody answered on `name`: a socket file still there is stale and goes.
-    bool listen(const QString& name);
+    // Call only once nobody answered at socketPath: a socket file still there is
+    // stale and goes.
+    bool listen(const std::string& socketPath);
 
 signals:
     // Absolute paths, possibly none (a start without arguments only brings the window forward).

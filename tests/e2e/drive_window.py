@@ -585,8 +585,10 @@ class Session:
         later.mkdir(exist_ok=True)
         name = "2026_1115_090000_0006.MOV"
         shutil.copyfile(Path(self.args.open[0]) / self.clips[-1].name, later / name)
-        # A name relative to the later start's own folder: the window is told the whole path.
-        second = subprocess.run([self.args.app, name], cwd=later, capture_output=True, text=True, timeout=DEADLINE)
+        # As a user types it: the launcher beside the window's program, with a name relative to the
+        # later start's own folder (the window is told the whole path).
+        launcher = Path(self.args.app).with_name("dashtrack")
+        second = subprocess.run([str(launcher), name], cwd=later, capture_output=True, text=True, timeout=DEADLINE)
         if second.returncode != 0 or second.stdout or second.stderr:
             raise Failure(f"expected the later start to hand over quietly and exit 0; saw status "
                           f"{second.returncode}, output {second.stdout + second.stderr!r}")

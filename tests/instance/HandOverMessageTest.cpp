@@ -1,7 +1,5 @@
 #include "HandOverMessage.h"
 
-#include <QtEndian>
-
 #include <gtest/gtest.h>
 
 #include <string>
@@ -11,16 +9,15 @@ namespace {
 using Status = HandOverMessage::Status;
 using Paths = std::vector<std::filesystem::path>;
 
-QByteArray u32(uint32_t value) {
-    char bytes[4];
-    qToBigEndian(value, bytes);
-    return QByteArray(bytes, 4);
+std::string u32(uint32_t value) {
+    return {static_cast<char>(value >> 24), static_cast<char>(value >> 16), static_cast<char>(value >> 8),
+            static_cast<char>(value)};
 }
 
 // A message with a body as given: magic, the body's length, the body.
-QByteArray framed(const QByteArray& body) { return "DTH1" + u32(static_cast<uint32_t>(body.size())) + body; }
+std::string framed(const std::string& body) { return "DTH1" + u32(static_cast<uint32_t>(body.size())) + body; }
 
-QByteArray entry(const QByteArray& path) { return u32(static_cast<uint32_t>(path.size())) + path; }
+std::string entry(const std::string& path) { return u32(static_cast<uint32_t>(path.size())) + path; }
 
 TEST(HandOverMessage, RoundTripKeepsEveryByteOfEveryPath) {
     const Paths paths{"/home/me/clips/2026_1115_080000_0001.MOV", "/media/card/DCIM/a b/c\xff\xfe.mov", "/"};
@@ -42,20 +39,20 @@ TEST(HandOverMessage, EncodeLeavesOutWhatCouldNotBeReceived) {
 }
 
 TEST(HandOverMessage, EveryPrefixIsIncomplete) {
-    const QByteArray whole = HandOverMessage::encode({"/a.MOV", "/b/c.MOV"});
-    for (qsizetype size = 0; size < whole.size(); ++size)
-        EXPECT_EQ(HandOverMessage::decode(whole.first(size)).status, Status::Incomplete) << size << " bytes";
+    const std::string whole = HandOverMessage::encode({"/a.MOV", "/b/c.MOV"});
+    for (size_t size = 0; size < whole.size(); ++size)
+        EXPECT_EQ(HandOverMessage::decode(std::string_view(whole).substr(0, size)).status, Status::Incomplete) << size << " bytes";
 }
 
 TEST(HandOverMessage, BadInputIsRefused) {
     const struct {
         const char* what;
-        QByteArray bytes;
+        std::string bytes;
     } cases[] = {
-        {"another magic", QByteArray("XTH1") + u32(4) + u32(0)},
-        {"another magic, early", QByteArray("DX")},
-        {"a body too short for its count", framed(QByteArray(2, '\0'))},
-        {"a body length beyond the limit", QByteArray("DTH1") + u32(0xFFFFFFFFu)},
+        {"another magic", "XTH1" + u32(4) + u32(0)},
+        {"another magic, early", "DX"},
+        {"a body too short for its count", framed(std::string(2, '\0'))},
+        {"a body length beyond the limit", "DTH1" + u32(0xFFFFFFFFu)},
         {"bytes after the body", framed(u32(0)) + "junk"},
         {"a count larger than the body could hold", framed(u32(0x7FFFFFFFu) + entry("/a"))},
         {"a count larger than the entries", framed(u32(2) + entry("/a") + u32(0))},
@@ -64,7 +61,7 @@ TEST(HandOverMessage, BadInputIsRefused) {
         {"a path length beyond the limit", framed(u32(1) + u32(0xFFFFFFF0u) + "/a")},
         {"an empty path", framed(u32(1) + entry("") + u32(0))},
         {"a relative path", framed(u32(1) + entry("clip.MOV"))},
-        {"a NUL inside a path", framed(u32(1) + entry(QByteArray("/a\0b", 4)))},
+        {"a NUL inside a path", framed(u32(1) + entry(std::string("/a\0b", 4)))},
     };
     for (const auto& c : cases) {
         const auto decoded = HandOverMessage::decode(c.bytes);

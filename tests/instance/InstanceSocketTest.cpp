@@ -25,13 +25,12 @@ using Paths = std::vector<std::filesystem::path>;
 
 InstanceSocketPlace place(unsigned user, const char* runtimeDir, const char* display, const char* wayland = "",
                           const char* override = "") {
-    return {user, QString::fromLatin1(runtimeDir), QString::fromLatin1(display), QString::fromLatin1(wayland),
-            QString::fromLatin1(override)};
+    return {user, runtimeDir, display, wayland, override, ""};
 }
 
 TEST(InstanceSocketName, OnePerUserAndSession) {
-    const QString name = instanceSocketName(place(1000, "/run/user/1000", ":0"));
-    EXPECT_TRUE(name.startsWith("/run/user/1000/dashtrack-1000-")) << name.toStdString();
+    const std::string name = instanceSocketName(place(1000, "/run/user/1000", ":0"));
+    EXPECT_TRUE(name.starts_with("/run/user/1000/dashtrack-1000-")) << name;
     EXPECT_EQ(instanceSocketName(place(1000, "/run/user/1000", ":0")), name);
 
     const struct {
@@ -45,10 +44,13 @@ TEST(InstanceSocketName, OnePerUserAndSession) {
     };
     for (const auto& other : others) EXPECT_NE(instanceSocketName(other.place), name) << other.what;
 
-    const QString bare = instanceSocketName(place(1000, "", ":0"));
-    EXPECT_FALSE(bare.contains('/')) << "without a runtime folder, a name for the temporary folder";
-    EXPECT_TRUE(bare.startsWith("dashtrack-1000-"));
-    EXPECT_EQ(instanceSocketName(place(1000, "/run/user/1000", ":0", "", "/tmp/x.sock")), "/tmp/x.sock");
+    // The launcher connects to the path itself, so it is always a whole one.
+    EXPECT_TRUE(instanceSocketName(place(1000, "", ":0")).starts_with("/tmp/dashtrack-1000-"));
+    InstanceSocketPlace withTemp = place(1000, "", ":0");
+    withTemp.tempDir = "/var/tmp/";
+    EXPECT_TRUE(instanceSocketName(withTemp).starts_with("/var/tmp/dashtrack-1000-"));
+    EXPECT_EQ(instanceSocketName(place(1000, "/run/user/1000", ":0", "", "/srv/x.sock")), "/srv/x.sock");
+    EXPECT_EQ(instanceSocketName(place(1000, "/run/user/1000", ":0", "", "x.sock")), "/tmp/x.sock");
 }
 
 // Hands paths over from another thread, as a later start would, while this one runs the server's
@@ -58,7 +60,7 @@ struct HandOverResult {
     bool confirmed = false;
 };
 
-HandOverResult handOverTo(InstanceServer& server, const QString& name, const Paths& paths) {
+HandOverResult handOverTo(InstanceServer& server, const std::string& name, const Paths& paths) {
     HandOverResult result;
     QEventLoop loop;
     QObject::connect(&server, &InstanceServer::pathsArrived, &loop, [&](const Paths& arrived) {
@@ -78,7 +80,7 @@ HandOverResult handOverTo(InstanceServer& server, const QString& name, const Pat
 
 TEST(InstanceSocket, PathsReachTheRunningServer) {
     QTemporaryDir dir;
-    const QString name = QDir(dir.path()).filePath("instance");
+    const std::string name = QFile::encodeName(QDir(dir.path()).filePath("instance")).toStdString();
     InstanceServer server;
     ASSERT_TRUE(server.listen(name));
     const Paths paths{"/clips/a.MOV", "/clips/b c.MOV"};
@@ -89,22 +91,22 @@ TEST(InstanceSocket, PathsReachTheRunningServer) {
 
 TEST(InstanceSocket, NobodyListeningMeansNoHandOver) {
     QTemporaryDir dir;
-    EXPECT_FALSE(InstanceClient::handOver(QDir(dir.path()).filePath("nobody"), {"/clips/a.MOV"}));
+    EXPECT_FALSE(InstanceClient::handOver(QFile::encodeName(QDir(dir.path()).filePath("nobody")).toStdString(),
+                                          {"/clips/a.MOV"}));
 }
 
 TEST(InstanceSocket, AStaleSocketIsTakenOver) {
     QTemporaryDir dir;
-    const QString name = QDir(dir.path()).filePath("stale");
+    const std::string name = QFile::encodeName(QDir(dir.path()).filePath("stale")).toStdString();
     // A socket file whose program is gone: bound, then closed without removing it.
     const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
     ASSERT_GE(fd, 0);
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    const QByteArray path = QFile::encodeName(name);
-    std::memcpy(address.sun_path, path.constData(), static_cast<size_t>(path.size()));
+    std::memcpy(address.sun_path, name.data(), name.size());
     ASSERT_EQ(::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
     ::close(fd);
-    ASSERT_TRUE(QFile::exists(name));
+    ASSERT_TRUE(std::filesystem::exists(name));
 
     EXPECT_FALSE(InstanceClient::handOver(name, {"/clips/a.MOV"}));
     InstanceServer server;
