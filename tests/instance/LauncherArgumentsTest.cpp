@@ -39,9 +39,4 @@ TEST(LauncherArguments, OnlyMoviesAreHandedOverByTheLauncher) {
     }
 }
 
-TEST(LauncherArguments, RelativeNamesBecomeWholePathsAgainstTheWorkingFolder) {
-    const Paths whole = absoluteArguments({"clips/../a.MOV", "/media/b.MOV"});
-    EXPECT_EQ(whole, (Paths{std::filesystem::current_path() / "a.MOV", "/media/b.MOV"}));
-}
-
 }  // namespace

@@ -137,10 +137,4 @@ TEST(MprisProperties, ChangedReportsOnlyWhatDiffers) {
     EXPECT_EQ(changed.value("PlaybackStatus").toString(), "Playing");
 }
 
-TEST(MprisProperties, FirstReportHasEveryProperty) {
-    const QVariantMap all = MprisProperties::changingProperties(loadedClip());
-    EXPECT_EQ(MprisProperties::changed({}, all), all);
-    EXPECT_FALSE(all.contains("Position"));
-}
-
 }  // namespace
