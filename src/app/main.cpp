@@ -8,6 +8,7 @@
 #include "GPSUtils.h"
 #include "MainWindow.h"
 #include "MovieArguments.h"
+#include "VideoRendererChoice.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     GPSUtils& settings = GPSUtils::sharedUtils();
     settings.setVideoTrackProbe(defaultVideoTrackProbe());
+    setPreferredVideoRenderer(rendererPreferenceWord(settings.videoRenderer()));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));

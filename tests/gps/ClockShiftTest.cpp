@@ -1,4 +1,3 @@
-#include "GPSData.h"
 #include "HourShift.h"
 
 #include <gtest/gtest.h>
@@ -44,14 +43,6 @@ TEST(ClockShiftTest, MovesByMinutesThroughTheCalendar) {
         shiftRecordTimeByMinutes(f, c.minutes);
         EXPECT_EQ(fields(f), fields(c.after)) << c.name;
     }
-}
-
-TEST(ClockShiftTest, TheReadOutsShowTheShiftedTime) {
-    GPSFix fix;
-    fix.clockSeconds = 1'704'067'140.0;  // 2023-12-31 23:59:00
-    GPSData sample = GPSData::fromFix(fix);
-    sample.shiftClockByMinutes(75);
-    EXPECT_EQ(std::tuple(sample.DateText(), sample.TimeText()), std::tuple("01/01/24", "01:14:00"));
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "ClockCorrection.h"
 #include "GPSUtils.h"
-#include "SettingRange.h"
 #include "TestFiles.h"
 
 #include <gtest/gtest.h>
@@ -35,14 +34,6 @@ TEST(ClockCorrectionTest, TextReadsBackAsTheSameMinutes) {
         EXPECT_EQ(clockCorrectionText(c.minutes), c.text);
         EXPECT_EQ(parseClockCorrection(clockCorrectionText(c.minutes)), c.minutes);
     }
-}
-
-TEST(SettingRangeTest, OutOfRangeOrMissingGivesTheFallback) {
-    const struct {
-        std::optional<int64_t> stored;
-        int64_t value;
-    } cases[] = {{std::nullopt, 300}, {10, 10}, {2000, 2000}, {9, 300}, {2001, 300}, {-5, 300}, {500, 500}};
-    for (const auto& c : cases) EXPECT_EQ(kTileCacheMegabytes.valueOr(c.stored), c.value);
 }
 
 class PreferenceSettings : public testing::Test {
