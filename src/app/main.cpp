@@ -15,6 +15,7 @@
 #include "MainWindow.h"
 #include "MovieArguments.h"
 #include "MprisService.h"
+#include "VideoRendererChoice.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -32,6 +33,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     GPSUtils& settings = GPSUtils::sharedUtils();
     settings.setVideoTrackProbe(defaultVideoTrackProbe());
+    setPreferredVideoRenderer(rendererPreferenceWord(settings.videoRenderer()));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));

@@ -143,7 +143,8 @@ void MainWindowDelegate::setupMap() {
 
 void MainWindowDelegate::useTileSource(const std::string& source) {
     // The map lets go of the old provider before it goes.
-    std::unique_ptr<TileProvider> provider = makeTileProvider(QString::fromStdString(source));
+    std::unique_ptr<TileProvider> provider =
+        makeTileProvider(QString::fromStdString(source), settings_.tileCacheMegabytes() * 1024 * 1024);
     if (outlets_.mapView != nullptr) outlets_.mapView->setTileProvider(provider.get());
     tileProvider_ = std::move(provider);
     RefreshMapMenu(source);
@@ -183,4 +184,5 @@ void MainWindowDelegate::RefreshMapMenu(const std::string& source) {
     check(o.mapMBTiles, source.starts_with("mbtiles:"));
     check(o.mapTileFolder, source.starts_with("folder:"));
     check(o.mapWorkOffline, source == "offline");
+    refreshPreferences();
 }

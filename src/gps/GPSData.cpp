@@ -149,3 +149,5 @@ std::string GPSData::TimeText() const {
     const RMCINFO& f = data_.rmcinfo;
     return formatTriple(f.Hour, f.Minute, f.Second, ':');
 }
+
+void GPSData::shiftClockByMinutes(int minutes) { shiftRecordTimeByMinutes(data_.rmcinfo, minutes); }

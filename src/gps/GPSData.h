@@ -61,6 +61,9 @@ public:
     // degrees, the speed in the unit the MPH read-out shows (knots), the date and time of the fix's
     // clock. A fix without a clock has the date and time fields zero.
     static GPSData fromFix(const GPSFix& fix);
+    // The sample's date and time moved by minutes (shiftRecordTimeByMinutes): the user's correction
+    // of a camera clock that was wrong.
+    void shiftClockByMinutes(int minutes);
     // The same sample flagged as no longer a fix ('V'): a place held over a gap in the fixes.
     GPSData heldOver() const {
         GPSData held = *this;

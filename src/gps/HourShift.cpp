@@ -38,3 +38,27 @@ void shiftRecordTimeByHours(RMCINFO& fix, int hours) {
     fix.Minute = uint32_t(result.tm_min);
     fix.Second = uint32_t(result.tm_sec);
 }
+
+void shiftRecordTimeByMinutes(RMCINFO& fix, int minutes) {
+    using namespace std::chrono;
+    if (minutes == 0) return;
+    const bool twoDigitYear = fix.Year < 100;
+    const uint32_t year = twoDigitYear ? fix.Year + 2000 : fix.Year;
+    if (!isValidWallClock(year, fix.Month, fix.Day, fix)) return;
+
+    const sys_days day{year_month_day{std::chrono::year(int(year)), std::chrono::month(fix.Month),
+                                      std::chrono::day(fix.Day)}};
+    const sys_seconds moved = day + hours(fix.Hour) + std::chrono::minutes(int64_t(fix.Minute) + minutes) +
+                              seconds(fix.Second);
+    const sys_days movedDay = floor<days>(moved);
+    const year_month_day date{movedDay};
+    const int movedYear = int(date.year());
+    if (movedYear < 1 || movedYear > 9999) return;
+    const hh_mm_ss clock{moved - movedDay};
+    fix.Year = twoDigitYear && movedYear >= 2000 && movedYear < 2100 ? uint32_t(movedYear - 2000) : uint32_t(movedYear);
+    fix.Month = unsigned(date.month());
+    fix.Day = unsigned(date.day());
+    fix.Hour = uint32_t(clock.hours().count());
+    fix.Minute = uint32_t(clock.minutes().count());
+    fix.Second = uint32_t(clock.seconds().count());
+}

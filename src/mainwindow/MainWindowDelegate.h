@@ -19,6 +19,7 @@
 
 #include <QObject>
 #include <QPointF>
+#include <QPointer>
 #include <QString>
 
 #include <cstdint>
@@ -34,6 +35,7 @@ class GPSPlayerEngine;
 class GPSUtils;
 class MovieScan;
 class PlaylistTableModel;
+class PreferencesDialog;
 class QAbstractButton;
 class QAction;
 
@@ -69,6 +71,8 @@ public:
     void OnShowAbout();
     void OnHideAbout();
     void OnPreference(QObject* sender);
+    // The unit to show, from the Units menu or the preferences: 1 KM/H, 0 MPH.
+    void useUnit(uint64_t unitType);
 
     // Transport commands (control/). A null sender means "called by another handler".
     void OnPlay(QObject* sender) override;
@@ -152,6 +156,14 @@ public:
     void OnOpenMapFile(bool folder);
     void RefreshMapMenu(const std::string& source);
 
+    // Preferences (preferences/MainWindowDelegatePreferences.cpp): what only the dialog changes.
+    void OnTileCacheSizeChanged(int64_t megabytes);
+    // Stored, then the loaded clip's read-outs and the clips' trips follow.
+    void OnClockCorrectionChanged(int minutes);
+    // The open dialog, if any, shows the stored values again: after a menu changed one.
+    void refreshPreferences();
+    PreferencesDialog* preferencesDialog() const;
+
 
     bool isInited = false;
     Playlist playlist;
@@ -226,4 +238,5 @@ private:
     std::optional<GeoPoint> shownPlace_;
     bool quitAtEnd_ = false;
     bool quitting_ = false;
+    QPointer<PreferencesDialog> preferencesDialog_;
 };

@@ -59,12 +59,17 @@ void MainWindowDelegate::RefreshMenu() {
     if (outlets_.unitKMH != nullptr) outlets_.unitKMH->setChecked(kmh);
     if (outlets_.unitMPH != nullptr) outlets_.unitMPH->setChecked(!kmh);
     if (outlets_.actionContinuousPlay != nullptr) outlets_.actionContinuousPlay->setChecked(settings_.continuousPlay());
+    refreshPreferences();
 }
 
 void MainWindowDelegate::OnUnitChanged(QAction* sender) {
     if (sender == nullptr) return;
     // An item without a tag counts as tag 0, as a menu item's default tag would.
-    settings_.setUnitType(sender->data().toULongLong());
+    useUnit(sender->data().toULongLong());
+}
+
+void MainWindowDelegate::useUnit(uint64_t unitType) {
+    settings_.setUnitType(unitType);
     setupPlaylistTable();
     setupTimeline();
     RefreshMenu();
@@ -80,5 +85,3 @@ void MainWindowDelegate::OnShowAbout() {
 void MainWindowDelegate::OnHideAbout() {
     if (outlets_.aboutView != nullptr && outlets_.content != nullptr) outlets_.aboutView->ShowAbout(false, outlets_.content);
 }
-
-void MainWindowDelegate::OnPreference(QObject* /*sender*/) {}

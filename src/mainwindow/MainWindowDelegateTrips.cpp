@@ -37,6 +37,7 @@ bool tripKnown(const TripIndex& trips, int64_t row) {
 void MainWindowDelegate::refreshTrips() {
     if (clipCatalog_ == nullptr) {
         clipCatalog_ = new ClipCatalog(this);
+        clipCatalog_->setClockCorrectionMinutes(settings_.clockCorrectionMinutes());
         QObject::connect(clipCatalog_, &ClipCatalog::clipsRead, this, [this] { refreshTrips(); });
     }
     std::vector<std::filesystem::path> files;
@@ -115,6 +116,7 @@ void MainWindowDelegate::showClipProblem(int64_t row) {
 void MainWindowDelegate::OnContinuousPlayChanged(bool on) {
     settings_.setContinuousPlay(on);
     if (outlets_.actionContinuousPlay != nullptr) outlets_.actionContinuousPlay->setChecked(on);
+    refreshPreferences();
     refreshTimeline();
 }
 

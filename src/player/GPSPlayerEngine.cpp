@@ -94,7 +94,8 @@ void GPSPlayerEngine::setMovie(const std::filesystem::path& url) {
 
     float loaderMax = 0;
     std::vector<GPSData> records = GPSDataLoader::LoadGPSDataList(url, &loaderMax);
-    PlayerTrack track = PlayerTrack::fromLoaded(std::move(records), loaderMax);
+    appliedClockCorrection_ = settings_.clockCorrectionMinutes();
+    PlayerTrack track = PlayerTrack::fromLoaded(std::move(records), loaderMax, appliedClockCorrection_);
     gpsDataList_ = std::move(track.samples);
     speedMax_ = track.speedMax;
     StartTimer();
@@ -196,6 +197,13 @@ void GPSPlayerEngine::tick() {
     // Exact equality: a movie at rest on its last frame stands at its duration. Not-a-number (no
     // player) never equals.
     if (currentSeconds() == duration_ && delegate_) delegate_->Completed(*this);
+}
+
+void GPSPlayerEngine::applyClockCorrection() {
+    const int wanted = settings_.clockCorrectionMinutes();
+    if (!gpsDataList_ || wanted == appliedClockCorrection_) return;
+    PlayerTrack::recorrect(*gpsDataList_, appliedClockCorrection_, wanted);
+    appliedClockCorrection_ = wanted;
 }
 
 void GPSPlayerEngine::update() {

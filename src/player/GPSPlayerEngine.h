@@ -86,6 +86,9 @@ public:
     void StopTimer();
     // One track and progress update, as a tick while playing runs it.
     void update();
+    // The stored clock correction changed: the loaded track's times follow it. Nothing is
+    // reported: the sample on screen has not changed, only its time.
+    void applyClockCorrection();
 
     // The frame at the current playback time as PNG bytes; nothing without a player, while it
     // waits, or when the frame cannot be taken from the file.
@@ -114,6 +117,8 @@ private:
     float speedMax_ = 0;
     GPSPlayerViewDelegate* delegate_ = nullptr;
     std::optional<std::vector<GPSData>> gpsDataList_;
+    // The clock correction gpsDataList_'s times carry.
+    int appliedClockCorrection_ = 0;
     double duration_ = 0;
     TrackCursor cursor_;
     int64_t prevStatus_ = 0;

@@ -13,5 +13,8 @@ struct PlayerTrack {
     std::vector<GPSData> samples;  // empty, or the lead-in followed by every record
     float speedMax = 0;            // 0 for an empty track
 
-    static PlayerTrack fromLoaded(std::vector<GPSData> records, float loaderMaxSpeed);
+    // clockCorrectionMinutes moves every record's date and time, for a camera clock set wrong.
+    static PlayerTrack fromLoaded(std::vector<GPSData> records, float loaderMaxSpeed, int clockCorrectionMinutes = 0);
+    // Moves the times of samples already corrected by `from` minutes to a correction of `to`.
+    static void recorrect(std::vector<GPSData>& samples, int from, int to);
 };

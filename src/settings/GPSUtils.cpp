@@ -1,5 +1,8 @@
 #include "GPSUtils.h"
 
+#include "ClockCorrection.h"
+#include "SettingRange.h"
+
 #include <algorithm>
 #include <cmath>
 #include <iterator>
@@ -12,6 +15,9 @@ const std::string unitTypeKey = "UnitType";
 const std::string volumeKey = "Volume";
 const std::string mapSourceKey = "MapSource";
 const std::string continuousPlayKey = "ContinuousPlay";
+const std::string tileCacheKey = "TileCacheMegabytes";
+const std::string clockCorrectionKey = "ClockCorrection";
+const std::string videoRendererKey = "VideoRenderer";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -92,3 +98,38 @@ void GPSUtils::setMapSource(const std::string& source) { settings_.setStringValu
 bool GPSUtils::continuousPlay() const { return settings_.unsignedValue(continuousPlayKey).value_or(0) != 0; }
 
 void GPSUtils::setContinuousPlay(bool on) { settings_.setUnsignedValue(continuousPlayKey, on ? 1 : 0); }
+
+int64_t GPSUtils::tileCacheMegabytes() const {
+    const std::optional<uint64_t> stored = settings_.unsignedValue(tileCacheKey);
+    // Checked before the conversion: a huge unsigned value would turn negative.
+    if (!stored || *stored > uint64_t(kTileCacheMegabytes.highest)) return kTileCacheMegabytes.fallback;
+    return kTileCacheMegabytes.valueOr(int64_t(*stored));
+}
+
+bool GPSUtils::setTileCacheMegabytes(int64_t megabytes) {
+    if (!kTileCacheMegabytes.contains(megabytes)) return false;
+    settings_.setUnsignedValue(tileCacheKey, uint64_t(megabytes));
+    return true;
+}
+
+int GPSUtils::clockCorrectionMinutes() const {
+    const std::optional<std::string> stored = settings_.stringValue(clockCorrectionKey);
+    return stored ? parseClockCorrection(*stored).value_or(int(kClockCorrectionMinutes.fallback))
+                  : int(kClockCorrectionMinutes.fallback);
+}
+
+bool GPSUtils::setClockCorrectionMinutes(int minutes) {
+    if (!kClockCorrectionMinutes.contains(minutes)) return false;
+    settings_.setStringValue(clockCorrectionKey, clockCorrectionText(minutes));
+    return true;
+}
+
+RendererPreference GPSUtils::videoRenderer() const {
+    const std::optional<std::string> stored = settings_.stringValue(videoRendererKey);
+    return stored ? parseRendererPreference(*stored).value_or(RendererPreference::Automatic)
+                  : RendererPreference::Automatic;
+}
+
+void GPSUtils::setVideoRenderer(RendererPreference preference) {
+    settings_.setStringValue(videoRendererKey, std::string(rendererPreferenceWord(preference)));
+}

@@ -3,6 +3,7 @@
 // flag, and the test of which files are playable movies.
 
 #include "FilePasteboard.h"
+#include "RendererPreference.h"
 #include "SettingsFile.h"
 #include "VideoTrackProbe.h"
 
@@ -36,6 +37,16 @@ public:
     // Whether the end of a clip starts the next clip of the same trip; off until the user turns it on.
     bool continuousPlay() const;
     void setContinuousPlay(bool on);
+    // The HTTP tile cache's bound. A stored value outside kTileCacheMegabytes reads as the default
+    // (the file keeps it); the setter refuses one and returns false.
+    int64_t tileCacheMegabytes() const;
+    bool setTileCacheMegabytes(int64_t megabytes);
+    // Minutes added to the camera's times (stored as "+HH:MM"); 0 for a text that does not parse.
+    int clockCorrectionMinutes() const;
+    bool setClockCorrectionMinutes(int minutes);
+    // Read once at start; an unknown word reads as Automatic.
+    RendererPreference videoRenderer() const;
+    void setVideoRenderer(RendererPreference preference);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

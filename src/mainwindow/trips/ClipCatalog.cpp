@@ -64,7 +64,10 @@ void ClipCatalog::request(const std::vector<std::filesystem::path>& files) {
     {
         const std::lock_guard lock(mutex_);
         for (const auto& file : files) {
-            if (asked_.insert(file).second) queue_.push_back(file);
+            if (asked_.insert(file).second) {
+                queue_.push_back(file);
+                askedInOrder_.push_back(file);
+            }
         }
     }
     wake_.notify_all();
@@ -87,11 +90,15 @@ void ClipCatalog::run(const std::stop_token& stop) {
         const std::filesystem::path file = std::move(queue_.front());
         queue_.pop_front();
         inHand_ = 1;
+        const int correction = clockCorrection_;
+        const uint64_t generation = generation_;
         lock.unlock();
         ClipRecord record = reader_(file);
+        correctClock(record, correction);
         lock.lock();
         inHand_ = 0;
         done_.emplace_back(file, std::move(record));
+        doneGeneration_.push_back(generation);
         // One delivery on its way carries every clip read until it runs.
         if (!deliveryPosted_) {
             deliveryPosted_ = true;
@@ -102,11 +109,50 @@ void ClipCatalog::run(const std::stop_token& stop) {
 
 void ClipCatalog::deliver() {
     std::vector<std::pair<std::filesystem::path, ClipRecord>> batch;
+    std::vector<uint64_t> generations;
+    uint64_t current = 0;
     {
         const std::lock_guard lock(mutex_);
         batch.swap(done_);
+        generations.swap(doneGeneration_);
+        current = generation_;
         deliveryPosted_ = false;
     }
-    for (auto& [file, record] : batch) records_[file] = std::move(record);
+    for (std::size_t i = 0; i < batch.size(); ++i) {
+        if (generations[i] == current) records_[batch[i].first] = std::move(batch[i].second);
+    }
     if (!batch.empty()) emit clipsRead();
+}
+
+void ClipCatalog::setClockCorrectionMinutes(int minutes) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (minutes == clockCorrection_) return;
+        clockCorrection_ = minutes;
+        ++generation_;
+        // Every clip again, in the order asked: the ones waiting are in that list already.
+        queue_.assign(askedInOrder_.begin(), askedInOrder_.end());
+    }
+    wake_.notify_all();
+}
+
+void ClipCatalog::correctClock(ClipRecord& record, int minutes) {
+    if (minutes == 0) return;
+    if (record.track) {
+        auto track = std::make_shared<std::vector<GPSData>>(*record.track);
+        for (GPSData& sample : *track) sample.shiftClockByMinutes(minutes);
+        record.track = std::move(track);
+    }
+    const int64_t seconds = int64_t(minutes) * 60;
+    if (record.fixes) {
+        auto fixes = std::make_shared<std::vector<GPSFix>>(*record.fixes);
+        for (GPSFix& fix : *fixes) {
+            if (fix.clockSeconds) *fix.clockSeconds += double(seconds);
+        }
+        record.fixes = std::move(fixes);
+    }
+    ClipSummary& summary = record.facts.summary;
+    for (std::optional<int64_t>* time : {&summary.firstSampleSeconds, &summary.lastSampleSeconds, &summary.creationSeconds}) {
+        if (*time) **time += seconds;
+    }
 }

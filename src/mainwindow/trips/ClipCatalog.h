@@ -52,6 +52,14 @@ public:
     // Reads one clip from the disk: its track, its length from the movie header, its creation time.
     static ClipRecord readClip(const std::filesystem::path& file);
 
+    // Minutes added to every clip's times (the camera's clock set wrong), from the next read on.
+    // A change reads every known clip again in the background; until each is read again, find()
+    // gives its record with the old times.
+    void setClockCorrectionMinutes(int minutes);
+    // The record with its date and times moved by minutes: the track, the fixes' clock and the
+    // trip facts alike, so that everything built on it agrees.
+    static void correctClock(ClipRecord& record, int minutes);
+
 signals:
     // Some clips have been read; find() now knows them.
     void clipsRead();
@@ -68,6 +76,11 @@ private:
     std::deque<std::filesystem::path> queue_;
     std::vector<std::pair<std::filesystem::path, ClipRecord>> done_;
     std::set<std::filesystem::path> asked_;  // queued or read, so each file is read once
+    std::vector<std::filesystem::path> askedInOrder_;
+    int clockCorrection_ = 0;
+    // Bumped by each correction change: a record read under an older one is not delivered.
+    uint64_t generation_ = 0;
+    std::vector<uint64_t> doneGeneration_;
     std::size_t inHand_ = 0;
     bool deliveryPosted_ = false;
     // Last: stopped and joined before anything above goes.

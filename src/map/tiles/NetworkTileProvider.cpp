@@ -12,11 +12,12 @@
 #error "DASHTRACK_VERSION must be defined by the build"
 #endif
 
-NetworkTileProvider::NetworkTileProvider(TileSource source, QString cacheDirectory, QObject* parent)
+NetworkTileProvider::NetworkTileProvider(TileSource source, QString cacheDirectory, QObject* parent,
+                                         qint64 diskCacheBytes)
     : TileProvider(parent), source_(std::move(source)) {
     auto* diskCache = new QNetworkDiskCache(&network_);
     diskCache->setCacheDirectory(cacheDirectory.isEmpty() ? defaultCacheDirectory() : cacheDirectory);
-    diskCache->setMaximumCacheSize(kDiskCacheBytes);
+    diskCache->setMaximumCacheSize(diskCacheBytes);
     network_.setCache(diskCache);
 }
 
@@ -26,6 +27,15 @@ NetworkTileProvider::~NetworkTileProvider() {
     for (QNetworkReply* reply : network_.findChildren<QNetworkReply*>()) {
         reply->disconnect(this);
     }
+}
+
+void NetworkTileProvider::setDiskCacheBytes(qint64 bytes) {
+    if (auto* diskCache = qobject_cast<QNetworkDiskCache*>(network_.cache())) diskCache->setMaximumCacheSize(bytes);
+}
+
+qint64 NetworkTileProvider::diskCacheBytes() const {
+    const auto* diskCache = qobject_cast<const QNetworkDiskCache*>(network_.cache());
+    return diskCache != nullptr ? diskCache->maximumCacheSize() : 0;
 }
 
 QString NetworkTileProvider::defaultCacheDirectory() {

@@ -25,7 +25,8 @@ public:
     static constexpr qint64 kDiskCacheBytes = 300LL * 1024 * 1024;
 
     // cacheDirectory: where the HTTP disk cache lives; empty for defaultCacheDirectory().
-    explicit NetworkTileProvider(TileSource source, QString cacheDirectory = {}, QObject* parent = nullptr);
+    explicit NetworkTileProvider(TileSource source, QString cacheDirectory = {}, QObject* parent = nullptr,
+                                 qint64 diskCacheBytes = kDiskCacheBytes);
     ~NetworkTileProvider() override;
 
     QImage tile(const TileId& id) override;
@@ -42,6 +43,9 @@ public:
     // How long a tile that timed out or failed waits before it may be asked for again.
     void setRetryDelay(int milliseconds) { retryDelayMs_ = milliseconds; }
     const TileMemoryCache& memoryCache() const { return memory_; }
+    // The disk cache's bound; a smaller one is reached as the cache next makes room.
+    void setDiskCacheBytes(qint64 bytes);
+    qint64 diskCacheBytes() const;
 
 signals:
     // The tile did not come: permanently (the server said it is not there) or for now.

@@ -4,8 +4,9 @@
 #include "MBTilesTileProvider.h"
 #include "NetworkTileProvider.h"
 #include "TileSource.h"
+#include "TileUrlTemplate.h"
 
-std::unique_ptr<TileProvider> makeTileProvider(const QString& choice) {
+std::unique_ptr<TileProvider> makeTileProvider(const QString& choice, qint64 diskCacheBytes) {
     static const QString mbtilesPrefix = QStringLiteral("mbtiles:");
     static const QString folderPrefix = QStringLiteral("folder:");
     static const QString urlPrefix = QStringLiteral("url:");
@@ -18,21 +19,20 @@ std::unique_ptr<TileProvider> makeTileProvider(const QString& choice) {
         return provider->open(choice.mid(folderPrefix.size())) ? std::move(provider) : nullptr;
     }
     if (choice.startsWith(urlPrefix)) {
-        // A tile server of the user's own (a fleet's, or one on this machine), set in the settings file.
-        const QString urlTemplate = choice.mid(urlPrefix.size());
-        if (!urlTemplate.startsWith(QLatin1String("http://")) && !urlTemplate.startsWith(QLatin1String("https://")))
-            return nullptr;
+        // A tile server of the user's own (a fleet's, or one on this machine).
+        const QString urlTemplate = choice.mid(urlPrefix.size()).trimmed();
+        if (checkTileUrlTemplate(urlTemplate)) return nullptr;
         TileSource source;
         source.id = QStringLiteral("url");
         source.name = urlTemplate;
         source.urlTemplate = urlTemplate;
-        return std::make_unique<NetworkTileProvider>(std::move(source));
+        return std::make_unique<NetworkTileProvider>(std::move(source), QString(), nullptr, diskCacheBytes);
     }
     if (choice == QLatin1String("offline")) {
         return nullptr;
     }
     if (std::optional<TileSource> source = findTileSource(choice)) {
-        return std::make_unique<NetworkTileProvider>(std::move(*source));
+        return std::make_unique<NetworkTileProvider>(std::move(*source), QString(), nullptr, diskCacheBytes);
     }
     return nullptr;
 }

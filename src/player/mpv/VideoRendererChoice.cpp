@@ -33,7 +33,14 @@ std::optional<std::string> probeGLRenderer() {
     return renderer;
 }
 
+std::string& preferredRenderer() {
+    static std::string word;
+    return word;
+}
+
 }  // namespace
+
+void setPreferredVideoRenderer(std::string_view word) { preferredRenderer() = lowered(word); }
 
 bool isSoftwareGLRenderer(std::string_view glRenderer) {
     static constexpr auto kSoftware = std::to_array<std::string_view>(
@@ -54,7 +61,8 @@ VideoRenderer decideVideoRenderer(std::string_view forced, std::string_view plat
 VideoRenderer chosenVideoRenderer() {
     static const VideoRenderer choice = [] {
         const char* variable = std::getenv("DASHTRACK_VIDEO_RENDERER");
-        const std::string forced = variable ? lowered(variable) : std::string();
+        // The environment wins over the stored choice.
+        const std::string forced = variable && *variable != '\0' ? lowered(variable) : preferredRenderer();
         const std::string platform = QGuiApplication::platformName().toStdString();
         // The probe context costs a few milliseconds; skip it when the answer does not depend on it.
         const bool needProbe = forced != "gl" && forced != "sw" && platform != "offscreen" && platform != "minimal";

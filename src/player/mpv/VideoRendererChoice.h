@@ -19,5 +19,9 @@ VideoRenderer decideVideoRenderer(std::string_view forced, std::string_view plat
 // Mesa's CPU rasterisers and the like: OpenGL that would only be slower than mpv's own software path.
 bool isSoftwareGLRenderer(std::string_view glRenderer);
 
+// The user's stored choice ("gl", "sw", anything else automatic), used where the environment
+// forces nothing. Only a call before the first chosenVideoRenderer() counts.
+void setPreferredVideoRenderer(std::string_view word);
+
 // Decided once per process, after QGuiApplication exists.
 VideoRenderer chosenVideoRenderer();
