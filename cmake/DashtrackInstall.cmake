@@ -1,0 +1,42 @@
+# What `cmake --install` puts where, below any prefix (cmake/DashtrackInstallDirs.cmake): the
+# programs, the probe module, the data they read at run time, and the files that make the player
+# known to the desktop (desktop entry, AppStream metadata, icons), the manual pages and licences.
+
+install(TARGETS dashtrack-gps RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS dashtrack-gps-probe LIBRARY DESTINATION ${DASHTRACK_INSTALL_MODULEDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/resources/Env.plist DESTINATION ${DASHTRACK_INSTALL_RESOURCEDIR})
+
+set(DASHTRACK_FULL_RESOURCEDIR ${CMAKE_INSTALL_FULL_DATADIR}/dashtrack)
+set(DASHTRACK_FULL_MODULEDIR ${CMAKE_INSTALL_FULL_LIBDIR}/dashtrack)
+set(man_dir ${CMAKE_BINARY_DIR}/man)
+configure_file(${PROJECT_SOURCE_DIR}/resources/man/dashtrack-gps.1.in ${man_dir}/dashtrack-gps.1 @ONLY)
+install(FILES ${man_dir}/dashtrack-gps.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+if(DASHTRACK_GUI)
+  install(TARGETS dashtrack RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES ${DASHTRACK_RESOURCE_BUILD_DIR}/DigifaceWide.ttf ${PROJECT_SOURCE_DIR}/resources/DigifaceWide-OFL.txt
+          DESTINATION ${DASHTRACK_INSTALL_RESOURCEDIR})
+  # Translations are read from here; the folder exists even before any are installed into it.
+  install(DIRECTORY DESTINATION ${DASHTRACK_INSTALL_TRANSLATIONSDIR})
+
+  configure_file(${PROJECT_SOURCE_DIR}/resources/man/dashtrack.1.in ${man_dir}/dashtrack.1 @ONLY)
+  install(FILES ${man_dir}/dashtrack.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+  install(FILES ${PROJECT_SOURCE_DIR}/resources/dashtrack.desktop
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/applications RENAME ${DASHTRACK_APP_ID}.desktop)
+  configure_file(${PROJECT_SOURCE_DIR}/resources/dashtrack.metainfo.xml.in
+                 ${CMAKE_BINARY_DIR}/resources/${DASHTRACK_APP_ID}.metainfo.xml @ONLY)
+  install(FILES ${CMAKE_BINARY_DIR}/resources/${DASHTRACK_APP_ID}.metainfo.xml
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+
+  # The icons are drawn under the program's short name and installed under the application's id.
+  set(icon_theme_dir ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+  install(FILES ${DASHTRACK_ICON_BUILD_DIR}/scalable/apps/dashtrack.svg
+          DESTINATION ${icon_theme_dir}/scalable/apps RENAME ${DASHTRACK_APP_ID}.svg)
+  foreach(size IN LISTS DASHTRACK_ICON_SIZES)
+    install(FILES ${DASHTRACK_ICON_BUILD_DIR}/${size}x${size}/apps/dashtrack.png
+            DESTINATION ${icon_theme_dir}/${size}x${size}/apps RENAME ${DASHTRACK_APP_ID}.png)
+  endforeach()
+
+  install(FILES ${PROJECT_SOURCE_DIR}/resources/DigifaceWide-OFL.txt DESTINATION ${DASHTRACK_INSTALL_DOCDIR})
+endif()
