@@ -45,6 +45,11 @@ appstreamcli validate --no-net "$metainfo" || fail "appstreamcli validate"
 grep -q "<id>$app_id</id>" "$metainfo" || fail "metainfo id"
 grep -q "<launchable type=\"desktop-id\">$app_id.desktop</launchable>" "$metainfo" || fail "metainfo launchable"
 grep -q "<release version=\"$version\"" "$metainfo" || fail "metainfo release $version"
+# The screenshots are served from the repository: each must be there.
+source_root=$(cd "$(dirname "$0")/../.." && pwd)
+screenshots=$(sed -n 's|.*<image[^>]*>https://raw.githubusercontent.com/[^/]*/[^/]*/[^/]*/\([^<]*\)</image>.*|\1|p' "$metainfo")
+[ -n "$screenshots" ] || fail "metainfo shows no screenshot"
+for shot in $screenshots; do [ -f "$source_root/$shot" ] || fail "screenshot not in the repository: $shot"; done
 
 for page in dashtrack dashtrack-gps; do
   warnings=$(LC_ALL=C.UTF-8 groff -man -Tutf8 -ww -z "$root/share/man/man1/$page.1" 2>&1)
