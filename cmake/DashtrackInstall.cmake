@@ -8,9 +8,14 @@ install(FILES ${PROJECT_SOURCE_DIR}/resources/Env.plist DESTINATION ${DASHTRACK_
 
 set(DASHTRACK_FULL_RESOURCEDIR ${CMAKE_INSTALL_FULL_DATADIR}/dashtrack)
 set(DASHTRACK_FULL_MODULEDIR ${CMAKE_INSTALL_FULL_LIBDIR}/dashtrack)
-set(man_dir ${CMAKE_BINARY_DIR}/man)
-configure_file(${PROJECT_SOURCE_DIR}/resources/man/dashtrack-gps.1.in ${man_dir}/dashtrack-gps.1 @ONLY)
-install(FILES ${man_dir}/dashtrack-gps.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# A manual page with this build's version and paths, compressed as Debian installs them.
+function(dashtrack_install_man_page name)
+  set(page ${CMAKE_BINARY_DIR}/man/${name}.1)
+  configure_file(${PROJECT_SOURCE_DIR}/resources/man/${name}.1.in ${page} @ONLY)
+  file(ARCHIVE_CREATE OUTPUT ${page}.gz PATHS ${page} FORMAT raw COMPRESSION GZip COMPRESSION_LEVEL 9)
+  install(FILES ${page}.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endfunction()
+dashtrack_install_man_page(dashtrack-gps)
 
 if(DASHTRACK_GUI)
   install(TARGETS dashtrack RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
@@ -19,8 +24,7 @@ if(DASHTRACK_GUI)
   # Translations are read from here; the folder exists even before any are installed into it.
   install(DIRECTORY DESTINATION ${DASHTRACK_INSTALL_TRANSLATIONSDIR})
 
-  configure_file(${PROJECT_SOURCE_DIR}/resources/man/dashtrack.1.in ${man_dir}/dashtrack.1 @ONLY)
-  install(FILES ${man_dir}/dashtrack.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  dashtrack_install_man_page(dashtrack)
 
   install(FILES ${PROJECT_SOURCE_DIR}/resources/dashtrack.desktop
           DESTINATION ${CMAKE_INSTALL_DATADIR}/applications RENAME ${DASHTRACK_APP_ID}.desktop)

@@ -21,7 +21,7 @@ expected=(
   share/doc/dashtrack/DigifaceWide-OFL.txt
   "share/applications/$app_id.desktop" "share/metainfo/$app_id.metainfo.xml"
   "share/icons/hicolor/scalable/apps/$app_id.svg"
-  share/man/man1/dashtrack.1 share/man/man1/dashtrack-gps.1
+  share/man/man1/dashtrack.1.gz share/man/man1/dashtrack-gps.1.gz
 )
 for size in 16 32 48 64 128 256 512; do expected+=("share/icons/hicolor/${size}x${size}/apps/$app_id.png"); done
 for file in "${expected[@]}"; do [ -f "$root/$file" ] || fail "not installed: $file"; done
@@ -52,9 +52,10 @@ screenshots=$(sed -n 's|.*<image[^>]*>https://raw.githubusercontent.com/[^/]*/[^
 for shot in $screenshots; do [ -f "$source_root/$shot" ] || fail "screenshot not in the repository: $shot"; done
 
 for page in dashtrack dashtrack-gps; do
-  warnings=$(LC_ALL=C.UTF-8 groff -man -Tutf8 -ww -z "$root/share/man/man1/$page.1" 2>&1)
+  source=$(gzip -dc "$root/share/man/man1/$page.1.gz") || fail "$page.1.gz does not unpack"
+  warnings=$(LC_ALL=C.UTF-8 groff -man -Tutf8 -ww -z 2>&1 <<<"$source")
   [ -z "$warnings" ] || fail "$page.1: $warnings"
-  grep -q "Dashtrack $version" "$root/share/man/man1/$page.1" || fail "$page.1 names no version"
+  grep -q "Dashtrack $version" <<<"$source" || fail "$page.1 names no version"
 done
 
 # The installed tool loads its movie test from the installed module, and fails without it.

@@ -30,7 +30,7 @@ done
 contents=$(dpkg-deb -c "$deb" | awk '{print $6}')
 for file in ./usr/bin/dashtrack ./usr/bin/dashtrack-gps "./usr/$libdir/dashtrack/dashtrack-gps-probe.so" \
             "./usr/share/applications/$app_id.desktop" "./usr/share/metainfo/$app_id.metainfo.xml" \
-            ./usr/share/dashtrack/Env.plist ./usr/share/man/man1/dashtrack.1; do
+            ./usr/share/dashtrack/Env.plist ./usr/share/man/man1/dashtrack.1.gz; do
   grep -qxF "$file" <<<"$contents" || fail "not in the package: $file"
 done
 outside=$(grep -v '^\./usr/' <<<"$contents" | grep -vx '\./' || true)
