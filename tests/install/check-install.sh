@@ -71,6 +71,23 @@ shown=$(QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$scratch" "$root/bin/dashtrac
 QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR="$scratch" "$root/bin/dashtrack" --help 2>/dev/null \
   | grep -q -- --quit-at-end || fail "installed dashtrack --help"
 
+# The installed player reads its shipped settings and LED font from the installed data, not from
+# the build tree this stage lies in: traced while it opens a movie and quits at its first frame.
+if strace -o /dev/null true 2>/dev/null; then
+  runtime="$scratch/runtime"
+  mkdir -m 700 "$runtime"
+  QT_QPA_PLATFORM=offscreen DASHTRACK_AUDIO_OUTPUT=null QT_LOGGING_RULES=dashtrack.route=false \
+    XDG_CONFIG_HOME="$scratch/config" XDG_RUNTIME_DIR="$runtime" \
+    strace -f -qq -e trace=openat -o "$scratch/opened" "$root/bin/dashtrack" --quit-at-first-frame "$movie" \
+    || fail "installed dashtrack did not play $movie"
+  for file in Env.plist DigifaceWide.ttf; do
+    grep -qF "\"$root/share/dashtrack/$file\", O_RDONLY" "$scratch/opened" || fail "installed dashtrack did not read $file"
+  done
+  if grep -F "\"$build/resources/" "$scratch/opened"; then fail "installed dashtrack read the build tree's resources"; fi
+else
+  echo "note: strace cannot trace here, so the player's resource reads were not checked"
+fi
+
 # An installed program must not look into the build tree for libraries.
 for file in bin/dashtrack bin/dashtrack-gps "$libdir/dashtrack/dashtrack-gps-probe.so"; do
   if readelf -d "$root/$file" | grep -E 'R(UN)?PATH'; then fail "$file has a library search path"; fi
