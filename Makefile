@@ -5,7 +5,7 @@ JOBS       ?= $(shell nproc)
 MAKEFLAGS  += --no-print-directory
 FUZZ_SECONDS ?= 60
 
-.PHONY: all deps configure build run test test-unit test-sanitize fuzz bench clean
+.PHONY: all deps configure build run test test-unit test-sanitize fuzz bench clean package
 
 all: build
 
@@ -37,6 +37,10 @@ test-sanitize: build
 
 bench: build
 	@scripts/run-benchmarks $(BUILD)
+
+# The Debian package, $(BUILD)/dashtrack_<version>_<arch>.deb, with dpkg-shlibdeps' dependencies.
+package: build
+	@cd $(BUILD) && cpack
 
 clean:
 	rm -rf $(BUILD) $(SAN_BUILD)

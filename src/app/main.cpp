@@ -27,8 +27,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Dashtrack"));
     QApplication::setWindowIcon(applicationIcon());
-    // Desktops match the window to dashtrack.desktop (its icon, its name in the task switcher).
-    QGuiApplication::setDesktopFileName(QStringLiteral("dashtrack"));
+    QApplication::setApplicationVersion(QStringLiteral(DASHTRACK_VERSION));
+    // Desktops match the window to the installed desktop entry (its icon, its name in the task
+    // switcher) by this id.
+    QGuiApplication::setDesktopFileName(QStringLiteral(DASHTRACK_APP_ID));
     // libmpv needs C number formatting; QApplication has just set the user's locale.
     std::setlocale(LC_NUMERIC, "C");
     GPSUtils& settings = GPSUtils::sharedUtils();
@@ -38,6 +40,7 @@ int main(int argc, char** argv) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));
     parser.addHelpOption();
+    parser.addVersionOption();
     parser.addPositionalArgument(QStringLiteral("movies"), QStringLiteral("Movie files or folders of movies."),
                                  QStringLiteral("[FILE|FOLDER]..."));
     const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),

@@ -5,6 +5,10 @@
 #include <array>
 #include <system_error>
 
+#ifndef DASHTRACK_BIN_TO_MODULEDIR
+#error "the build must define where the probe module is installed"
+#endif
+
 namespace {
 
 std::filesystem::path executableFolder() {
@@ -22,7 +26,8 @@ std::unique_ptr<MovieProbeLibrary> MovieProbeLibrary::load(std::string& error) {
         return nullptr;
     }
     // Build tree: beside the program. Install tree: the program's private library folder.
-    const std::array candidates = {folder / kModuleName, folder.parent_path() / "lib" / "dashtrack" / kModuleName};
+    const std::array candidates = {folder / kModuleName,
+                                   (folder / DASHTRACK_BIN_TO_MODULEDIR / kModuleName).lexically_normal()};
     error = std::string("cannot find ") + kModuleName;
     for (const auto& candidate : candidates) {
         std::error_code ignored;

@@ -8,7 +8,8 @@
 
 class MovieProbeLibrary {
 public:
-    // The module's file name; it is looked for beside the executable, then in ../lib/dashtrack.
+    // The module's file name; it is looked for beside the executable, then in the installed
+    // private folder relative to it (../lib/dashtrack or ../lib/<multiarch>/dashtrack).
     static constexpr const char* kModuleName = "dashtrack-gps-probe.so";
 
     // Absent when the module cannot be found or loaded; `error` then says why in one line.

@@ -1,8 +1,14 @@
 #pragma once
-// Where the application's shipped resources (settings file, fonts, images) live.
+// Where the application's shipped resources (settings file, fonts, translations) live.
 
 #include <filesystem>
+#include <optional>
 
-// `<executable's folder>/../share/dashtrack` when that exists (an installed copy), else the
-// resources folder of the build tree the program was built in.
+// The resource folder of the running program (resourceDirectoryOf its own file); when none is
+// found, the folder of a standard installation, so that lookups fail rather than read elsewhere.
 std::filesystem::path resourceDirectory();
+
+// For the program file `executable`: the installed data folder relative to the program's folder
+// (`../share/dashtrack` in the usual layout) when that exists; else, for a program inside a CMake
+// build tree, the `resources` folder beside the nearest CMakeCache.txt above it; else nothing.
+std::optional<std::filesystem::path> resourceDirectoryOf(const std::filesystem::path& executable);
