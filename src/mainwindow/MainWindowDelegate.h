@@ -152,6 +152,14 @@ public:
     void OnOpenMapFile(bool folder);
     void RefreshMapMenu(const std::string& source);
 
+    // Export Track (mainwindow/export/MainWindowDelegateExport.cpp): the loaded clip, the trip of
+    // the selected row, or the whole playlist (one track per trip, a segment per clip) as GPX,
+    // KML, GeoJSON or CSV, written off the UI thread.
+    enum class ExportScope { LoadedClip, SelectedTrip, Playlist };
+    void OnExportTrack(ExportScope scope);
+    // Each scope's item enabled while it holds a clip that may have a track and no export runs.
+    void RefreshExportMenu();
+
 
     bool isInited = false;
     Playlist playlist;
@@ -226,4 +234,10 @@ private:
     std::optional<GeoPoint> shownPlace_;
     bool quitAtEnd_ = false;
     bool quitting_ = false;
+
+    // Export Track: the playlist rows of each track the scope exports, in order; none when the
+    // scope holds no clip that may have a track.
+    std::vector<TripSpan> exportSpans(ExportScope scope) const;
+    void startExport(ExportScope scope, const QString& file, const std::string& format);
+    bool exporting_ = false;
 };

@@ -36,6 +36,10 @@ public:
     // Whether the end of a clip starts the next clip of the same trip; off until the user turns it on.
     bool continuousPlay() const;
     void setContinuousPlay(bool on);
+    // The format Export Track last wrote, by its dashtrack-gps name ("gpx", "kml", "geojson",
+    // "csv"); absent until the user exports, and whatever the file holds: the reader checks it.
+    std::optional<std::string> exportFormat() const;
+    void setExportFormat(const std::string& format);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }
