@@ -58,6 +58,13 @@ std::string tripName(const TripIndex& trips, std::size_t row) {
     return name;
 }
 
+// Runs f on the UI thread, through the application object: it outlives the window, and while it
+// goes away (waiting for the thread pool) instance() is already null and nothing more is posted.
+template <typename F>
+void postToUiThread(F f) {
+    if (QCoreApplication* app = QCoreApplication::instance()) QMetaObject::invokeMethod(app, std::move(f), Qt::QueuedConnection);
+}
+
 SpeedUnit speedUnitOf(const GPSUtils& settings) { return settings.unitType() == 0 ? SpeedUnit::MPH : SpeedUnit::KMH; }
 
 }  // namespace
@@ -162,20 +169,16 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
 
     exporting_ = true;
     RefreshExportMenu();
-    // Answers go through the application object, which outlives the window; the pointers are
-    // looked at only there, on the UI thread.
+    // The pointers are looked at only on the UI thread, where the window may have gone meanwhile.
     const QPointer<MainWindowDelegate> controller(this);
     const QPointer<QProgressDialog> progressGuard(progress);
     QThreadPool::globalInstance()->start([job, cancel, controller, progressGuard, file] {
-        QCoreApplication* app = QCoreApplication::instance();
-        const TrackExportResult result = job->run(cancel->get_token(), [app, progressGuard](std::size_t done, std::size_t) {
-            if (app == nullptr) return;
-            QMetaObject::invokeMethod(app, [progressGuard, done] {
+        const TrackExportResult result = job->run(cancel->get_token(), [progressGuard](std::size_t done, std::size_t) {
+            postToUiThread([progressGuard, done] {
                 if (progressGuard && !progressGuard->wasCanceled()) progressGuard->setValue(int(done));
-            }, Qt::QueuedConnection);
+            });
         });
-        if (app == nullptr) return;
-        QMetaObject::invokeMethod(app, [controller, progressGuard, file, result] {
+        postToUiThread([controller, progressGuard, file, result] {
             delete progressGuard.data();  // never shown if the export took under half a second
             if (!controller) return;
             controller->exporting_ = false;
@@ -188,6 +191,6 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
             failure->setObjectName(QStringLiteral("exportFailure"));
             failure->setAttribute(Qt::WA_DeleteOnClose);
             failure->open();
-        }, Qt::QueuedConnection);
+        });
     });
 }
