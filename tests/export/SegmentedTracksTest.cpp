@@ -40,11 +40,6 @@ TEST(SegmentedTracks, OneTrackWithOneSegmentPerClip) {
         EXPECT_EQ(occurrences(text, c.point), 5u) << c.format;
         EXPECT_EQ(occurrences(text, "Trip 1"), c.format == std::string("csv") ? 5u : 1u) << c.format;
     }
-    // The table says which clip each row came from, numbered from 1 within the track.
-    const std::vector<std::string> rows = lines(renderSegmented("csv", "Trip 1", twoClips()));
-    ASSERT_EQ(rows.size(), 6u);
-    EXPECT_EQ(rows[2].rfind("Trip 1,1,/cam/0001.mov,", 0), 0u);
-    EXPECT_EQ(rows[3].rfind("Trip 1,2,/cam/0002.mov,", 0), 0u);
 }
 
 TEST(SegmentedTracks, GpxReadsBackWithEveryPointInOrder) {
@@ -62,18 +57,6 @@ TEST(SegmentedTracks, GpxReadsBackWithEveryPointInOrder) {
             EXPECT_EQ(*fixes[i].clockSeconds - *fixes[i - 1].clockSeconds, 1.0) << i;
         }
     }
-}
-
-TEST(SegmentedTracks, ClipsWithoutALineLeaveNoHoleInGeoJson) {
-    // One point is no line: that clip drops out of the geometry and of every parallel array.
-    std::vector<NamedTrack> clips = twoClips();
-    clips.insert(clips.begin() + 1, {"/cam/lone.mov", trackOf({fixedPointSample(0, 0, 0)})});
-    clips.push_back({"/cam/nogps.mov", trackOf({})});
-    const std::string text = renderSegmented("geojson", "Trip 1", clips);
-    EXPECT_NE(text.find("\"files\": [\"/cam/0001.mov\", \"/cam/0002.mov\"]"), std::string::npos) << text;
-    EXPECT_EQ(occurrences(text, "\n ["), 2u);
-    // Nothing drawable at all: a feature without geometry, as for a lone clip without GPS.
-    EXPECT_NE(renderSegmented("geojson", "T", {clips[1], clips[3]}).find("\"geometry\": null}"), std::string::npos);
 }
 
 }  // namespace

@@ -68,6 +68,12 @@ TEST_F(ExportControllerTest, ThePlaylistBecomesOneTrackPerTripInTheChosenFormat)
     ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(target) && playlistItem->isEnabled(); }));
 
     EXPECT_EQ(settings.utils().exportFormat(), "kml");
+    // The next export offers the remembered format first.
+    controller.OnExportTrack(MainWindowDelegate::ExportScope::LoadedClip);
+    const auto dialogs = window.findChildren<QFileDialog*>(QStringLiteral("exportTrackDialog"));
+    ASSERT_EQ(dialogs.size(), 1);  // the first one went when it closed
+    EXPECT_EQ(dialogs.front()->selectedNameFilter(), QStringLiteral("KML 2.2 (*.kml)"));
+    dialogs.front()->reject();
     std::ostringstream text;
     text << std::ifstream(target).rdbuf();
     const auto count = [&](const std::string& part) {

@@ -3,7 +3,6 @@
 
 #include "ClipExportTrack.h"
 #include "ExportFormatChoice.h"
-#include "GPSUtils.h"
 #include "ProgramRun.h"
 #include "TestFiles.h"
 #include "TestTracks.h"
@@ -109,32 +108,10 @@ TEST(TrackExportJob, CancelledOrFailedLeavesNothingBehind) {
     }
 }
 
-TEST(TrackExportJob, TheChosenFormatIsRememberedForTheNextRun) {
-    const TempDir folder;
-    const SettingsLocation location{.userFile = folder / "Env.plist", .shippedFile = {}};
-    writeFile(folder / "Env.plist", plistDictionary(""));
-    const struct {
-        const char* filter;  // as the dialog reports it; unknown text keeps what was stored
-        const char* stored;
-    } cases[] = {
-        {"KML 2.2 (*.kml)", "kml"}, {"CSV (*.csv)", "csv"}, {"GeoJSON (*.geojson)", "geojson"}, {"GPX 1.1 (*.gpx)", "gpx"},
-    };
-    for (const auto& c : cases) {
-        {
-            GPSUtils settings(location);
-            const ExportFormatChoice* choice = exportChoiceOfFilter(c.filter);
-            ASSERT_NE(choice, nullptr) << c.filter;
-            settings.setExportFormat(std::string(choice->format));
-            settings.flush();
-        }
-        const GPSUtils next(location);
-        EXPECT_EQ(next.exportFormat(), c.stored);
-        EXPECT_EQ(exportChoiceOfFormat(next.exportFormat()).filter, c.filter);
-    }
-    EXPECT_EQ(exportChoiceOfFilter("All files (*)"), nullptr);
-    // Nothing stored, or a name from elsewhere: GPX.
+TEST(TrackExportJob, AStoredFormatWeDoNotOfferFallsBackToGpx) {
     for (const std::optional<std::string>& stored : {std::optional<std::string>(), std::optional<std::string>("json")})
         EXPECT_EQ(exportChoiceOfFormat(stored).format, "gpx");
+    EXPECT_EQ(exportChoiceOfFilter("All files (*)"), nullptr);
 }
 
 }  // namespace
