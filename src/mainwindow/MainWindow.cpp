@@ -70,6 +70,10 @@ MainWindowOutlets outletsOf(MainWindow& window, Ui::MainWindow& ui, AboutView& a
                       ui.actionRate8},
         .actionCopyPosition = ui.actionCopyPosition,
         .actionOpenPosition = ui.actionOpenPosition,
+        .menuExportTrack = ui.menuExportTrack,
+        .actionExportClip = ui.actionExportClip,
+        .actionExportTrip = ui.actionExportTrip,
+        .actionExportPlaylist = ui.actionExportPlaylist,
     };
 }
 

@@ -9,6 +9,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QActionGroup>
+#include <QMenu>
 #include <QSlider>
 
 #include <string>
@@ -124,4 +125,15 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
     QObject::connect(ui.actionAbout, &QAction::triggered, c, [c] { c->OnShowAbout(); });
     QObject::connect(ui.actionCopyPosition, &QAction::triggered, c, [c] { c->OnCopyPosition(); });
     QObject::connect(ui.actionOpenPosition, &QAction::triggered, c, [c] { c->OnOpenPosition(); });
+
+    // Export Track: an item per scope; what there is to export is looked at as the File menu opens.
+    using ExportScope = MainWindowDelegate::ExportScope;
+    const std::pair<QAction*, ExportScope> exportItems[] = {
+        {ui.actionExportClip, ExportScope::LoadedClip},
+        {ui.actionExportTrip, ExportScope::SelectedTrip},
+        {ui.actionExportPlaylist, ExportScope::Playlist},
+    };
+    for (const auto& [action, scope] : exportItems)
+        QObject::connect(action, &QAction::triggered, c, [c, scope = scope] { c->OnExportTrack(scope); });
+    QObject::connect(ui.menuFile, &QMenu::aboutToShow, c, [c] { c->RefreshExportMenu(); });
 }

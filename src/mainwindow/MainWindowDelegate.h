@@ -163,6 +163,13 @@ public:
     // The open dialog, if any, shows the stored values again: after a menu changed one.
     void refreshPreferences();
     PreferencesDialog* preferencesDialog() const;
+    // Export Track (mainwindow/export/MainWindowDelegateExport.cpp): the loaded clip, the trip of
+    // the selected row, or the whole playlist (one track per trip, a segment per clip) as GPX,
+    // KML, GeoJSON or CSV, written off the UI thread.
+    enum class ExportScope { LoadedClip, SelectedTrip, Playlist };
+    void OnExportTrack(ExportScope scope);
+    // Each scope's item enabled while it holds a clip that may have a track and no export runs.
+    void RefreshExportMenu();
 
 
     bool isInited = false;
@@ -239,4 +246,10 @@ private:
     bool quitAtEnd_ = false;
     bool quitting_ = false;
     QPointer<PreferencesDialog> preferencesDialog_;
+
+    // Export Track: the playlist rows of each track the scope exports, in order; none when the
+    // scope holds no clip that may have a track.
+    std::vector<TripSpan> exportSpans(ExportScope scope) const;
+    void startExport(ExportScope scope, const QString& file, const std::string& format);
+    bool exporting_ = false;
 };

@@ -78,6 +78,7 @@ void MainWindowDelegate::refreshTrips() {
         playlistModel_->setRowDecorations(std::move(decorations));
     }
     RefreshTripSummary();
+    RefreshExportMenu();
 
     // The timeline follows what became known of the loaded clip's trip, and only that.
     const TripSpan span = curIndex >= 0 && settings_.continuousPlay() ? tripIndex_.spanOfRow(curIndex) : shownSpan;

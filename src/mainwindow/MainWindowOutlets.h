@@ -11,6 +11,7 @@ class MapView;
 class QAbstractButton;
 class QAction;
 class QLabel;
+class QMenu;
 class QMainWindow;
 class QSlider;
 class QWidget;
@@ -82,4 +83,9 @@ struct MainWindowOutlets {
     // Edit: the shown place as text, or in the browser; enabled while the read-outs show a place.
     QAction* actionCopyPosition = nullptr;
     QAction* actionOpenPosition = nullptr;
+    // File, Export Track: one item per scope, each enabled while its scope has a track to export.
+    QMenu* menuExportTrack = nullptr;
+    QAction* actionExportClip = nullptr;
+    QAction* actionExportTrip = nullptr;
+    QAction* actionExportPlaylist = nullptr;
 };

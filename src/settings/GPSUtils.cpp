@@ -18,6 +18,7 @@ const std::string continuousPlayKey = "ContinuousPlay";
 const std::string tileCacheKey = "TileCacheMegabytes";
 const std::string clockCorrectionKey = "ClockCorrection";
 const std::string videoRendererKey = "VideoRenderer";
+const std::string exportFormatKey = "ExportFormat";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -133,3 +134,6 @@ RendererPreference GPSUtils::videoRenderer() const {
 void GPSUtils::setVideoRenderer(RendererPreference preference) {
     settings_.setStringValue(videoRendererKey, std::string(rendererPreferenceWord(preference)));
 }
+std::optional<std::string> GPSUtils::exportFormat() const { return settings_.stringValue(exportFormatKey); }
+
+void GPSUtils::setExportFormat(const std::string& format) { settings_.setStringValue(exportFormatKey, format); }

@@ -47,6 +47,10 @@ public:
     // Read once at start; an unknown word reads as Automatic.
     RendererPreference videoRenderer() const;
     void setVideoRenderer(RendererPreference preference);
+    // The format Export Track last wrote, by its dashtrack-gps name ("gpx", "kml", "geojson",
+    // "csv"); absent until the user exports, and whatever the file holds: the reader checks it.
+    std::optional<std::string> exportFormat() const;
+    void setExportFormat(const std::string& format);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

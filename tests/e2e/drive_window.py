@@ -595,6 +595,36 @@ class Session:
         wait_for(f"the playlist to grow from {before} to {before + 1} rows", lambda: ((n := rows()) == before + 1, n))
         self.shoot("later-start-added")
         print(f"e2e: a later start added {name} to the running window's playlist and exited")
+    def export_track_writes_gpx(self):
+        """File, Export Track, Loaded Clip… into a GPX: the document dashtrack-gps writes for that
+        clip, whose points exiftool reads back."""
+        target = self.out / "export.gpx"
+        target.unlink(missing_ok=True)
+        self.window.choose_menu_item("Loaded Clip…")
+        dialog = wait_for("the Export Track dialog", self._export_dialog)
+        self.window.key("ctrl+a", dialog)
+        run("xdotool", "type", "--delay", "20", str(target))
+        self.shoot("export-dialog")
+        self.window.key("Return", dialog)
+        wait_for(f"{target} written", lambda: (target.exists(), "no file"))
+        written = target.read_text()
+        clip = re.search(r"<trk>\s*<name>([^<]*)</name>", written).group(1)
+        unit = "kmh" if self.unit() == "KM/H" else "mph"
+        tool = run(self.args.gps_tool, "extract", "--format", "gpx", "--unit", unit, clip)
+        if written != tool:
+            raise Failure(f"expected the export of {clip} to be the document dashtrack-gps writes for it")
+        points = [(float(a), float(b)) for a, b in re.findall(r'<trkpt lat="([^"]+)" lon="([^"]+)"', tool)]
+        values = [float(v) for v in run("exiftool", "-n", "-a", "-s3", "-GpxTrkTrksegTrkptLat",
+                                        "-GpxTrkTrksegTrkptLon", str(target)).split()]
+        read = list(zip(values[:len(values) // 2], values[len(values) // 2:]))
+        if not points or read != points:
+            raise Failure(f"expected exiftool to read the {len(points)} points of {clip}; read {len(read)}")
+        print(f"e2e: Export Track wrote {len(points)} points of {Path(clip).name}, as dashtrack-gps and exiftool read them")
+
+    def _export_dialog(self):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Export Track$"],
+                               capture_output=True, text=True).stdout.split()
+        return bool(found), found[0] if found else "no dialog"
 
     def run(self):
         self.window = Window(self.process)
@@ -602,7 +632,8 @@ class Session:
                      self.ctrl_right_loads_next_clip, self.units_menu_changes_the_unit, self.full_screen_and_back,
                      self.active_and_inactive, self.about_over_the_window, self.continuous_play_carries_the_readouts,
                      self.timeline_click_seeks_while_paused, self.period_steps_one_frame,
-                     self.media_keys_drive_the_player, self.later_start_adds_to_this_window):
+                     self.media_keys_drive_the_player, self.later_start_adds_to_this_window,
+                     self.export_track_writes_gpx):
             try:
                 step()
             except Failure:
@@ -617,6 +648,7 @@ def main():
     parser.add_argument("--route", required=True)
     parser.add_argument("--out", required=True)
     parser.add_argument("--clip", action="append", required=True, help="NAME:FIRST_SECOND:SECONDS, oldest first")
+    parser.add_argument("--gps-tool", required=True, help="dashtrack-gps, to read the exported track's clip")
     args = parser.parse_args()
     # ctest's time-out and Ctrl+C end the run through the finally below.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))

@@ -36,6 +36,7 @@ void CsvTrackWriter::appendField(std::string& out, std::string_view text) {
 
 void CsvTrackWriter::begin() {
     std::string& row = out_.text();
+    if (segmented_) row += "track,segment,";
     if (severalFiles_) row += "file";
     for (const Column& column : kColumns) {
         if (severalFiles_ || &column != kColumns) row += ',';
@@ -46,16 +47,35 @@ void CsvTrackWriter::begin() {
 }
 
 void CsvTrackWriter::file(const NamedTrack& named) {
-    // File names are written as the bytes they are: CSV declares no encoding to keep to.
-    std::string fileField;
-    if (severalFiles_) {
-        appendField(fileField, named.file);
-        fileField += ',';
+    if (segmented_) {
+        segmentedTrack(named.file, {&named, 1});
+        return;
     }
+    // File names are written as the bytes they are: CSV declares no encoding to keep to.
+    std::string leading;
+    if (severalFiles_) {
+        appendField(leading, named.file);
+        leading += ',';
+    }
+    writeRows(named.track, leading);
+}
+
+void CsvTrackWriter::segmentedTrack(std::string_view name, std::span<const NamedTrack> segments) {
+    std::string trackField;
+    appendField(trackField, name);
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        std::string leading = trackField + ',' + std::to_string(i + 1) + ',';
+        appendField(leading, segments[i].file);
+        leading += ',';
+        writeRows(segments[i].track, leading);
+    }
+}
+
+void CsvTrackWriter::writeRows(const GPSTrack& track, const std::string& leading) {
     std::string cell;
-    for (const GPSData& sample : named.track.samples) {
+    for (const GPSData& sample : track.samples) {
         std::string& row = out_.text();
-        row += fileField;
+        row += leading;
         for (const Column& column : kColumns) {
             if (&column != kColumns) row += ',';
             cell.clear();

@@ -39,3 +39,13 @@ std::string render(std::string_view format, const std::vector<NamedTrack>& track
     writeTracks(*writer, tracks);
     return out.str();
 }
+
+std::string renderSegmented(std::string_view format, std::string_view name, const std::vector<NamedTrack>& segments,
+                            SpeedUnit unit) {
+    std::ostringstream out;
+    const auto writer = findTrackFormat(format)->make(out, {.unit = unit, .severalFiles = true, .segmented = true});
+    writer->begin();
+    writer->segmentedTrack(name, segments);
+    writer->end();
+    return out.str();
+}

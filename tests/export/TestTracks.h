@@ -21,3 +21,6 @@ std::vector<NamedTrack> sampleMovies();
 
 // The document a format writes for the tracks; severalFiles follows the count, as in the tool.
 std::string render(std::string_view format, const std::vector<NamedTrack>& tracks, SpeedUnit unit = SpeedUnit::MPH);
+// The document of one track called name with a segment per movie, as a trip is exported.
+std::string renderSegmented(std::string_view format, std::string_view name, const std::vector<NamedTrack>& segments,
+                            SpeedUnit unit = SpeedUnit::MPH);

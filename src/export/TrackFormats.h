@@ -13,6 +13,8 @@ struct ExportOptions {
     SpeedUnit unit = SpeedUnit::MPH;
     // JSON gives one object for a single movie and an array for several; CSV adds a file column.
     bool severalFiles = false;
+    // Tracks of several movies follow (segmentedTrack): CSV adds track and segment columns.
+    bool segmented = false;
 };
 
 struct TrackFormat {

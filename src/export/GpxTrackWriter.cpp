@@ -81,21 +81,30 @@ void GpxTrackWriter::begin() {
             "http://www8.garmin.com/xmlschemas/TrackPointExtensionv2.xsd\">\n";
 }
 
-void GpxTrackWriter::file(const NamedTrack& named) {
+void GpxTrackWriter::file(const NamedTrack& named) { writeTrack(named.file, trackSummary(named.track, unit_), {&named, 1}); }
+
+void GpxTrackWriter::segmentedTrack(std::string_view name, std::span<const NamedTrack> segments) {
+    writeTrack(name, trackSummary(segments, unit_), segments);
+}
+
+void GpxTrackWriter::writeTrack(std::string_view name, std::string_view summary, std::span<const NamedTrack> segments) {
     std::string& text = out_.text();
     text += "  <trk>\n    <name>";
-    appendXmlEscaped(text, named.file);
+    appendXmlEscaped(text, name);
     text += "</name>\n    <desc>";
-    appendXmlEscaped(text, trackSummary(named.track, unit_));
-    text += "</desc>\n    <trkseg>\n";
+    appendXmlEscaped(text, summary);
+    text += "</desc>\n";
     const std::string unitName = speedUnitName(unit_);
-    for (const GPSData& sample : named.track.samples) {
-        if (!hasMapPosition(sample)) continue;
-        appendPoint(out_.text(), sample, unit_, unitName);
-        out_.flushWhenFull();
+    for (const NamedTrack& segment : segments) {
+        out_ << "    <trkseg>\n";
+        for (const GPSData& sample : segment.track.samples) {
+            if (!hasMapPosition(sample)) continue;
+            appendPoint(out_.text(), sample, unit_, unitName);
+            out_.flushWhenFull();
+        }
+        out_ << "    </trkseg>\n";
     }
-    out_ << "    </trkseg>\n"
-            "  </trk>\n";
+    out_ << "  </trk>\n";
 }
 
 void GpxTrackWriter::end() {

@@ -17,7 +17,7 @@ constexpr TrackFormat kFormats[] = {
      }},
     {"csv", "one row per sample, the read-out texts",
      [](std::ostream& out, const ExportOptions& o) -> std::unique_ptr<TrackWriter> {
-         return std::make_unique<CsvTrackWriter>(out, o.unit, o.severalFiles);
+         return std::make_unique<CsvTrackWriter>(out, o.unit, o.severalFiles, o.segmented);
      }},
     {"gpx", "GPX 1.1, one track per file",
      [](std::ostream& out, const ExportOptions& o) -> std::unique_ptr<TrackWriter> {

@@ -7,6 +7,7 @@
 #include "XmlText.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -27,18 +28,20 @@ bool everyPointHasAltitude(const std::vector<const GPSData*>& points) {
     return true;
 }
 
-void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, SpeedUnit unit) {
-    out << "      <gx:Track>\n";
-    if (everyPointHasAltitude(points)) out << "        <altitudeMode>absolute</altitudeMode>\n";
+// indent goes before every line, so a track inside a gx:MultiTrack lines up under it.
+void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, SpeedUnit unit, std::string_view indent) {
+    const auto line = [&](std::string_view text) -> OutputBuffer& { return out << indent << text; };
+    line("      <gx:Track>\n");
+    if (everyPointHasAltitude(points)) line("        <altitudeMode>absolute</altitudeMode>\n");
     for (const GPSData* point : points) {
-        out << "        <when>";
+        line("        <when>");
         appendIsoDateTime(out.text(), point->data().rmcinfo);
         out << "</when>\n";
         out.flushWhenFull();
     }
     for (const GPSData* point : points) {
+        line("        <gx:coord>");
         std::string& text = out.text();
-        text += "        <gx:coord>";
         appendShortestDecimal(text, point->Longitude());
         text += ' ';
         appendShortestDecimal(text, point->Latitude());
@@ -50,19 +53,19 @@ void writeTrack(OutputBuffer& out, const std::vector<const GPSData*>& points, Sp
         text += "</gx:coord>\n";
         out.flushWhenFull();
     }
-    out << "        <ExtendedData>\n"
-           "          <SchemaData schemaUrl=\"#dashtrack\">\n"
-           "            <gx:SimpleArrayData name=\"speed\">\n";
+    line("        <ExtendedData>\n");
+    line("          <SchemaData schemaUrl=\"#dashtrack\">\n");
+    line("            <gx:SimpleArrayData name=\"speed\">\n");
     for (const GPSData* point : points) {
-        out << "              <gx:value>";
+        line("              <gx:value>");
         appendXmlEscaped(out.text(), speedTextIn(unit, *point));
         out << "</gx:value>\n";
         out.flushWhenFull();
     }
-    out << "            </gx:SimpleArrayData>\n"
-           "          </SchemaData>\n"
-           "        </ExtendedData>\n"
-           "      </gx:Track>\n";
+    line("            </gx:SimpleArrayData>\n");
+    line("          </SchemaData>\n");
+    line("        </ExtendedData>\n");
+    line("      </gx:Track>\n");
 }
 
 }  // namespace
@@ -85,19 +88,36 @@ void KmlTrackWriter::begin() {
             "    </Schema>\n";
 }
 
-void KmlTrackWriter::file(const NamedTrack& named) {
+void KmlTrackWriter::beginPlacemark(std::string_view name, std::string_view summary) {
     out_ << "    <Placemark>\n"
             "      <name>";
-    appendXmlEscaped(out_.text(), named.file);
+    appendXmlEscaped(out_.text(), name);
     out_ << "</name>\n"
             "      <description>";
-    appendXmlEscaped(out_.text(), trackSummary(named.track, unit_));
+    appendXmlEscaped(out_.text(), summary);
     out_ << "</description>\n"
             "      <styleUrl>#route</styleUrl>\n";
+}
+
+void KmlTrackWriter::file(const NamedTrack& named) {
+    beginPlacemark(named.file, trackSummary(named.track, unit_));
     // A Placemark without geometry still lists the movie, with its summary.
     const std::vector<const GPSData*> points = drawablePoints(named.track);
-    if (!points.empty()) writeTrack(out_, points, unit_);
+    if (!points.empty()) writeTrack(out_, points, unit_, "");
     out_ << "    </Placemark>\n";
+}
+
+void KmlTrackWriter::segmentedTrack(std::string_view name, std::span<const NamedTrack> segments) {
+    beginPlacemark(name, trackSummary(segments, unit_));
+    // Not interpolated: the gap between two movies is drawn as a gap, not a straight line.
+    out_ << "      <gx:MultiTrack>\n"
+            "        <gx:interpolate>0</gx:interpolate>\n";
+    for (const NamedTrack& segment : segments) {
+        const std::vector<const GPSData*> points = drawablePoints(segment.track);
+        if (!points.empty()) writeTrack(out_, points, unit_, "  ");
+    }
+    out_ << "      </gx:MultiTrack>\n"
+            "    </Placemark>\n";
 }
 
 void KmlTrackWriter::end() {

@@ -4,7 +4,9 @@
 #include "MapPosition.h"
 #include "SampleTime.h"
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -63,14 +65,20 @@ void appendGeometry(OutputBuffer& out, const std::vector<const GPSData*>& drawn)
     out << "\n]}";
 }
 
+// The drawn samples of a track: those with a place on the map.
+std::vector<const GPSData*> drawnSamples(const GPSTrack& track) {
+    std::vector<const GPSData*> drawn;
+    for (const GPSData& sample : track.samples)
+        if (hasMapPosition(sample)) drawn.push_back(&sample);
+    return drawn;
+}
+
 }  // namespace
 
 void GeoJsonTrackWriter::begin() { out_ << "{\"type\": \"FeatureCollection\", \"features\": ["; }
 
 void GeoJsonTrackWriter::file(const NamedTrack& named) {
-    std::vector<const GPSData*> drawn;
-    for (const GPSData& sample : named.track.samples)
-        if (hasMapPosition(sample)) drawn.push_back(&sample);
+    const std::vector<const GPSData*> drawn = drawnSamples(named.track);
 
     std::string& text = out_.text();
     text += written_++ > 0 ? ",\n" : "\n";
@@ -87,6 +95,62 @@ void GeoJsonTrackWriter::file(const NamedTrack& named) {
     out_ << "},\n \"geometry\": ";
     appendGeometry(out_, drawn);
     out_ << '}';
+}
+
+void GeoJsonTrackWriter::segmentedTrack(std::string_view name, std::span<const NamedTrack> segments) {
+    // A line of the MultiLineString needs two positions; a movie with fewer draws no line.
+    std::vector<const NamedTrack*> kept;
+    std::vector<std::vector<const GPSData*>> lines;
+    float maximum = 0;
+    for (const NamedTrack& segment : segments) {
+        maximum = std::max(maximum, segment.track.maxSpeed);
+        std::vector<const GPSData*> drawn = drawnSamples(segment.track);
+        if (drawn.size() < 2) continue;
+        kept.push_back(&segment);
+        lines.push_back(std::move(drawn));
+    }
+    // Parallel arrays: one item per kept movie, each (for times and speeds) one per position.
+    const auto appendPerLine = [&](auto appendLine) {
+        out_ << '[';
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            if (i > 0) out_ << ", ";
+            appendLine(i);
+        }
+        out_ << ']';
+    };
+
+    std::string& text = out_.text();
+    text += written_++ > 0 ? ",\n" : "\n";
+    text += "{\"type\": \"Feature\", \"properties\": {\"name\": ";
+    appendJsonString(text, name);
+    out_ << ", \"files\": ";
+    appendPerLine([&](std::size_t i) { appendJsonString(out_.text(), kept[i]->file); });
+    out_ << ", \"speedUnit\": ";
+    appendJsonString(out_.text(), speedUnitName(unit_));
+    out_ << ", \"maxSpeed\": ";
+    appendJsonNumber(out_.text(), maximumIn(unit_, maximum));
+    out_ << ", \"times\": ";
+    appendPerLine([&](std::size_t i) { appendJsonArray(out_, lines[i], appendJsonTime); });
+    out_ << ", \"speeds\": ";
+    appendPerLine([&](std::size_t i) {
+        appendJsonArray(out_, lines[i], [this](std::string& out, const GPSData& s) { appendJsonNumber(out, speedIn(unit_, s)); });
+    });
+    out_ << "},\n \"geometry\": ";
+    if (lines.empty()) {
+        out_ << "null}";
+        return;
+    }
+    out_ << "{\"type\": \"MultiLineString\", \"coordinates\": [";
+    for (const auto& line : lines) {
+        out_ << (&line == &lines.front() ? "\n [" : ",\n [");
+        for (const GPSData* sample : line) {
+            out_ << (sample == line.front() ? "\n  " : ",\n  ");
+            appendPosition(out_.text(), *sample);
+            out_.flushWhenFull();
+        }
+        out_ << "\n ]";
+    }
+    out_ << "\n]}}";
 }
 
 void GeoJsonTrackWriter::end() {
