@@ -85,6 +85,8 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
         {ui.actionToggleFullscreen, GPSPlayControlToggleFullscreen},
         {ui.actionPrevFrame, GPSPlayControlStepFrameBackward},
         {ui.actionNextFrame, GPSPlayControlStepFrameForward},
+        {ui.actionMarkStart, GPSPlayControlMarkStart},
+        {ui.actionMarkEnd, GPSPlayControlMarkEnd},
     };
     for (const auto& [action, code] : playbackItems) {
         action->setData(QVariant::fromValue<qulonglong>(code));
@@ -124,4 +126,6 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
     QObject::connect(ui.actionAbout, &QAction::triggered, c, [c] { c->OnShowAbout(); });
     QObject::connect(ui.actionCopyPosition, &QAction::triggered, c, [c] { c->OnCopyPosition(); });
     QObject::connect(ui.actionOpenPosition, &QAction::triggered, c, [c] { c->OnOpenPosition(); });
+    QObject::connect(ui.actionClearMarks, &QAction::triggered, c, [c] { c->OnClearMarks(); });
+    QObject::connect(ui.actionSaveSegment, &QAction::triggered, c, [c] { c->OnSaveSegment(); });
 }

@@ -95,7 +95,7 @@ public:
         const PacketPtr packet(av_packet_alloc());
         if (!packet) return "Out of memory";
         for (;;) {
-            if (stop.stop_requested()) return "Cancelled";
+            if (stop.stop_requested()) return kCutCancelled;
             const int read = av_read_frame(&input_, packet.get());
             if (read == AVERROR_EOF) break;
             if (read < 0) return errorText("Cannot read the clip", read);

@@ -13,6 +13,9 @@
 #include <string>
 #include <vector>
 
+// The error of a cut stopped because it was asked to.
+inline constexpr const char* kCutCancelled = "Cancelled";
+
 // The part of a clip that went into the movie, in seconds within the clip.
 struct CutPiece {
     double inSeconds = 0;

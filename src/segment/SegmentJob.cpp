@@ -103,7 +103,7 @@ SegmentResult SegmentJob::run(const SegmentRequest& request, const Progress& pro
         return result;
     }
     if (stop.stop_requested()) {
-        result.error = "Cancelled";
+        result.error = kCutCancelled;
         return result;
     }
     result.error = pending.commit(result.files);
