@@ -1,6 +1,6 @@
 #include "KeptStreams.h"
 
-#include "FFmpegHandles.h"
+#include "MovieFile.h"
 
 std::vector<int> keptStreamIndices(const AVFormatContext& clip, const AVOutputFormat& container) {
     std::vector<int> kept;
@@ -40,10 +40,10 @@ ClipStreams keptStreamSignatures(const AVFormatContext& clip, const AVOutputForm
 
 std::optional<ClipStreams> readKeptStreams(const std::filesystem::path& clip, const std::string& container) {
     const AVOutputFormat* format = av_guess_format(container.c_str(), nullptr, nullptr);
-    AVFormatContext* opened = nullptr;
-    if (format == nullptr || avformat_open_input(&opened, clip.c_str(), nullptr, nullptr) < 0) return std::nullopt;
-    const FormatContextPtr input(opened);
-    ClipStreams streams = keptStreamSignatures(*input, *format);
+    if (format == nullptr) return std::nullopt;
+    const std::optional<MovieFile> movie = MovieFile::open(clip);
+    if (!movie) return std::nullopt;
+    ClipStreams streams = keptStreamSignatures(movie->format(), *format);
     if (streams.empty()) return std::nullopt;
     return streams;
 }

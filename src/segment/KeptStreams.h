@@ -19,6 +19,6 @@ std::vector<int> keptStreamIndices(const AVFormatContext& clip, const AVOutputFo
 // The signatures of the kept streams of an opened clip.
 ClipStreams keptStreamSignatures(const AVFormatContext& clip, const AVOutputFormat& container);
 
-// Opens the clip and reads the signatures of its kept streams for the container ("mp4", "mov");
+// Opens the clip as the player would (a local movie file only) and reads the signatures of its kept streams for the container ("mp4", "mov");
 // absent when it does not open as a movie with at least one kept stream.
 std::optional<ClipStreams> readKeptStreams(const std::filesystem::path& clip, const std::string& container);

@@ -2,6 +2,7 @@
 
 #include "FFmpegHandles.h"
 #include "KeptStreams.h"
+#include "MovieFile.h"
 
 extern "C" {
 #include <libavutil/parseutils.h>
@@ -210,12 +211,13 @@ CutOutcome SegmentCutter::cut(const SegmentOutput& output, const std::filesystem
     int64_t offsetMicros = 0;
     for (std::size_t p = 0; p < output.pieces.size(); ++p) {
         const SegmentPiece& piece = output.pieces[p];
-        AVFormatContext* opened = nullptr;
-        if (int error = avformat_open_input(&opened, piece.source.c_str(), nullptr, nullptr); error < 0) {
-            outcome.error = errorText(("Cannot open " + piece.source.filename().string()).c_str(), error);
+        // As the player opens it: a local movie, never a list that names other files.
+        std::optional<MovieFile> clip = MovieFile::open(piece.source);
+        if (!clip) {
+            outcome.error = "Cannot open " + piece.source.filename().string() + " as a movie";
             return outcome;
         }
-        const FormatContextPtr input(opened);
+        AVFormatContext* const input = &clip->format();
         const std::vector<int> kept = keptStreamIndices(*input, *movie->oformat);
         if (kept.empty() || (p > 0 && kept.size() != movie->nb_streams)) {
             outcome.error = "The streams of " + piece.source.filename().string() + " do not fit the movie";
@@ -246,7 +248,7 @@ CutOutcome SegmentCutter::cut(const SegmentOutput& output, const std::filesystem
         if (piece.inSeconds > 0) {
             // Backwards: to the keyframe at or before the start. A clip that will not seek is read from its start.
             const int64_t target = zeroMicros + std::llround(piece.inSeconds * 1e6);
-            av_seek_frame(input.get(), -1, target, AVSEEK_FLAG_BACKWARD);
+            av_seek_frame(input, -1, target, AVSEEK_FLAG_BACKWARD);
         }
         // The movie is dated once, by its first piece.
         std::optional<double> wallAtIn;
