@@ -18,7 +18,7 @@
 
 namespace {
 
-// The clip's own container when it is one the segment can be written in, else MP4.
+// The clip's own container, MOV or else MP4.
 QString suffixLike(const std::filesystem::path& clip) { return QString::fromStdString(SegmentPlan::containerOf(clip)); }
 
 }  // namespace
@@ -38,7 +38,8 @@ void MainWindowDelegate::OnClearMarks() {
 }
 
 void MainWindowDelegate::keepMarksFor(const std::vector<std::filesystem::path>& clips) {
-    if (clips == markedClips_) return;
+    // Loading another clip of the trip empties the timeline for a moment: that changes nothing.
+    if (clips.empty() || clips == markedClips_) return;
     markedClips_ = clips;
     OnClearMarks();
 }
@@ -75,9 +76,15 @@ void MainWindowDelegate::OnSaveSegment() {
     dialog->setWindowTitle(QStringLiteral("Save Segment"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setNameFilter(suffix == QLatin1String("mov") ? QStringLiteral("QuickTime movie (*.mov)")
-                                                         : QStringLiteral("MPEG-4 movie (*.mp4)"));
+    // Both containers are offered: sound that MP4 cannot hold (PCM) is kept in a MOV.
+    const QString mp4Filter = QStringLiteral("MPEG-4 movie (*.mp4)");
+    const QString movFilter = QStringLiteral("QuickTime movie (*.mov)");
+    dialog->setNameFilters({mp4Filter, movFilter});
+    dialog->selectNameFilter(suffix == QLatin1String("mov") ? movFilter : mp4Filter);
     dialog->setDefaultSuffix(suffix);
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog, movFilter](const QString& filter) {
+        dialog->setDefaultSuffix(filter == movFilter ? QStringLiteral("mov") : QStringLiteral("mp4"));
+    });
     dialog->setDirectory(QFile::decodeName(first.parent_path().c_str()));
     dialog->selectFile(QFile::decodeName(first.stem().c_str()) + QStringLiteral("-segment.") + suffix);
     dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -59,8 +59,9 @@ void TimelineView::setSeries(TimelineSeries series) {
     if (!std::isfinite(series_.maxSpeed)) series_.maxSpeed = 0;
     ++seriesVersion_;
     position_ = std::clamp(position_, 0.0, series_.totalSeconds);
+    // An empty series is the moment between two clips' loads: the marks wait for the next one.
     for (std::optional<double>* mark : {&markStart_, &markEnd_})
-        if (*mark) **mark = std::min(**mark, series_.totalSeconds);
+        if (*mark && series_.totalSeconds > 0) **mark = std::min(**mark, series_.totalSeconds);
     describe();
     update();
 }

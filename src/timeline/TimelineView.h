@@ -32,7 +32,8 @@ public:
     double position() const { return position_; }
 
     // The span marked for saving, in the series' seconds. Either end can be set alone and in
-    // either order; both survive seeks and new series (clamped to their length) until cleared.
+    // either order; both survive seeks and new series (clamped to the length of any that has one)
+    // until cleared.
     void setMarkStart(double seconds);
     void setMarkEnd(double seconds);
     void clearMarks();

@@ -21,6 +21,8 @@ TEST(TimelineMarksTest, MarksStayOnTheSeriesUntilCleared) {
     view.requestSeek(20);
     view.setPosition(40);
     EXPECT_EQ(view.markStart(), 300);
+    view.setSeries(TimelineSeries{});
+    EXPECT_EQ(view.markStart(), 300) << "kept over an empty series";
     TimelineSeries shorter = testSeries();
     shorter.totalSeconds = 250;
     view.setSeries(shorter);
