@@ -59,7 +59,7 @@ SegmentResult SegmentJob::run(const SegmentRequest& request, const Progress& pro
     for (const SegmentPiece& piece : plan.pieces()) {
         std::optional<ClipStreams> read = readKeptStreams(piece.source, container);
         if (!read) {
-            result.error = "Cannot read the movie of " + piece.source.filename().string();
+            result.error = "Cannot open " + piece.source.filename().string() + " as a movie";
             return result;
         }
         streams.push_back(std::move(*read));
