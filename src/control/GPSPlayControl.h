@@ -20,4 +20,7 @@ enum GPSPlayControl : uint64_t {
     // Reviewing a paused picture frame by frame.
     GPSPlayControlStepFrameBackward = 12,
     GPSPlayControlStepFrameForward = 13,
+    // The ends of the span on the timeline that Save Segment cuts out.
+    GPSPlayControlMarkStart = 14,
+    GPSPlayControlMarkEnd = 15,
 };

@@ -43,6 +43,8 @@ constexpr std::array kRoutes{
           [](TransportCommands& c, QObject*) { c.StepFrame(false); }},
     Route{GPSPlayControlStepFrameForward, TransportButton::Snapshot,
           [](TransportCommands& c, QObject*) { c.StepFrame(true); }},
+    Route{GPSPlayControlMarkStart, TransportButton::Snapshot, [](TransportCommands& c, QObject*) { c.MarkSpanEdge(true); }},
+    Route{GPSPlayControlMarkEnd, TransportButton::Snapshot, [](TransportCommands& c, QObject*) { c.MarkSpanEdge(false); }},
 };
 
 const Route* routeOf(uint64_t playControl) {

@@ -12,7 +12,7 @@ class TransportCommands;
 
 class PlayControlDispatch {
 public:
-    // Runs the command of playControl on commands; codes 0 and above 11 do nothing.
+    // Runs the command of playControl on commands; a code without a route does nothing.
     static void perform(TransportCommands& commands, QObject* sender, uint64_t playControl);
     // The button that must be enabled for playControl to run; absent when none is.
     static std::optional<TransportButton> guardOf(uint64_t playControl);

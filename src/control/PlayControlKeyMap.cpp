@@ -37,6 +37,8 @@ constexpr std::array kBindings{
     KeyBinding{ControlKey::F, kCommand, GPSPlayControlToggleFullscreen},
     KeyBinding{ControlKey::Comma, kNone, GPSPlayControlStepFrameBackward},
     KeyBinding{ControlKey::Period, kNone, GPSPlayControlStepFrameForward},
+    KeyBinding{ControlKey::I, kNone, GPSPlayControlMarkStart},
+    KeyBinding{ControlKey::O, kNone, GPSPlayControlMarkEnd},
 };
 
 bool platformScanCodesAreXkb() {
@@ -81,6 +83,11 @@ ControlKey PlayControlKeyMap::keyOf(int qtKey, uint32_t nativeScanCode, bool sca
             return ControlKey::Comma;
         case Qt::Key_Period:
             return ControlKey::Period;
+        // The letters of "in" and "out", wherever the layout puts them.
+        case Qt::Key_I:
+            return ControlKey::I;
+        case Qt::Key_O:
+            return ControlKey::O;
         default:
             break;
     }

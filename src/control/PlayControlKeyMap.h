@@ -6,9 +6,10 @@
 
 class QKeyEvent;
 
-// The keys that can carry a command. Arrows, Space, Backspace, comma and full stop by what they
-// mean; F by where it sits on the keyboard, so that Ctrl+F works whatever letter the layout puts there.
-enum class ControlKey { Other, Left, Right, Down, Up, Space, Backspace, F, Comma, Period };
+// The keys that can carry a command. Arrows, Space, Backspace, comma, full stop, I and O by what
+// they mean; F by where it sits on the keyboard, so that Ctrl+F works whatever letter the layout
+// puts there.
+enum class ControlKey { Other, Left, Right, Down, Up, Space, Backspace, F, Comma, Period, I, O };
 
 class PlayControlKeyMap {
 public:

@@ -24,6 +24,8 @@ public:
     virtual void SpeedUp() = 0;
     // One frame forward or back while paused.
     virtual void StepFrame(bool forward) = 0;
+    // Sets the start or the end of the marked span on the timeline at the position.
+    virtual void MarkSpanEdge(bool start) = 0;
     virtual void UpdatePlayingStatus() = 0;
 
     // Named apart from QWidget's isEnabled/isHidden, so that a widget can implement them.

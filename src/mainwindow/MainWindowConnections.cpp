@@ -86,6 +86,8 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
         {ui.actionToggleFullscreen, GPSPlayControlToggleFullscreen},
         {ui.actionPrevFrame, GPSPlayControlStepFrameBackward},
         {ui.actionNextFrame, GPSPlayControlStepFrameForward},
+        {ui.actionMarkStart, GPSPlayControlMarkStart},
+        {ui.actionMarkEnd, GPSPlayControlMarkEnd},
     };
     for (const auto& [action, code] : playbackItems) {
         action->setData(QVariant::fromValue<qulonglong>(code));
@@ -136,4 +138,6 @@ void connectMainWindow(Ui::MainWindow& ui, MainWindowDelegate& controller) {
     for (const auto& [action, scope] : exportItems)
         QObject::connect(action, &QAction::triggered, c, [c, scope = scope] { c->OnExportTrack(scope); });
     QObject::connect(ui.menuFile, &QMenu::aboutToShow, c, [c] { c->RefreshExportMenu(); });
+    QObject::connect(ui.actionClearMarks, &QAction::triggered, c, [c] { c->OnClearMarks(); });
+    QObject::connect(ui.actionSaveSegment, &QAction::triggered, c, [c] { c->OnSaveSegment(); });
 }

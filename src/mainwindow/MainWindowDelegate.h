@@ -140,6 +140,12 @@ public:
     // The playlist rows the timeline spans: the loaded clip, or its whole trip under continuous play.
     TripSpan timelineSpan() const { return timelineSpan_; }
 
+    // Save Segment (segment/MainWindowDelegateSegment.cpp): the marks on the timeline, and the
+    // marked span (or the minute around the position) cut out of the clips with its GPX.
+    void MarkSpanEdge(bool start) override;
+    void OnClearMarks();
+    void OnSaveSegment();
+
     // The map (display/).
     // The route driven so far and the car, for every sample the player reports.
     void showCarLocation(const GPSData& data, int64_t index);
@@ -212,6 +218,9 @@ private:
     // Marks a row whose file would not open and says why over the movie.
     void showClipProblem(int64_t row);
 
+    // Clears the timeline's marks when the clips it spans are no longer those they were set on.
+    void keepMarksFor(const std::vector<std::filesystem::path>& clips);
+
     // The read-out labels of the outlets, as the panel that writes them.
     GPSInfoPanel infoPanel() const;
 
@@ -252,4 +261,6 @@ private:
     std::vector<TripSpan> exportSpans(ExportScope scope) const;
     void startExport(ExportScope scope, const QString& file, const std::string& format);
     bool exporting_ = false;
+    // The clips the timeline spanned when its marks were last kept.
+    std::vector<std::filesystem::path> markedClips_;
 };

@@ -149,6 +149,9 @@ void MainWindowDelegate::refreshTimeline() {
     for (const TimelineClip& clip : clips) durations.push_back(clip.durationSeconds);
     timelineSpan_ = span;
     timelineClock_ = TripClock(std::move(durations));
+    std::vector<std::filesystem::path> files;
+    for (std::size_t row = span.first; row < span.first + span.count; ++row) files.push_back(playlist.at(row).URL());
+    keepMarksFor(files);
     showTimelineSeries(buildTimelineSeries(clips), clips, clipFixes);
     showTimelinePosition(currentClipSeconds());
 }

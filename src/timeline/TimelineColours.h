@@ -18,6 +18,9 @@ inline QColor playedLine() { return QColor(255, 255, 255); }
 inline QColor label() { return QColor(255, 255, 255, 230); }
 inline QColor quietLabel() { return QColor(255, 255, 255, 150); }
 inline QColor cursor() { return QColor(255, 255, 255); }
+// The span marked for saving: an amber tint over the chart between two amber lines.
+inline QColor markedSpan() { return QColor(255, 190, 40, 70); }
+inline QColor markEdge() { return QColor(255, 190, 40); }
 // The dark edge that keeps the white cursor and marker apart from the white chart.
 inline QColor outline() { return QColor(0, 40, 80, 150); }
 

@@ -59,6 +59,9 @@ void TimelineView::setSeries(TimelineSeries series) {
     if (!std::isfinite(series_.maxSpeed)) series_.maxSpeed = 0;
     ++seriesVersion_;
     position_ = std::clamp(position_, 0.0, series_.totalSeconds);
+    // An empty series is the moment between two clips' loads: the marks wait for the next one.
+    for (std::optional<double>* mark : {&markStart_, &markEnd_})
+        if (*mark && series_.totalSeconds > 0) **mark = std::min(**mark, series_.totalSeconds);
     describe();
     update();
 }
@@ -66,6 +69,25 @@ void TimelineView::setSeries(TimelineSeries series) {
 void TimelineView::setPosition(double seconds) {
     if (dragging_ || !std::isfinite(seconds)) return;
     moveCursor(std::clamp(seconds, 0.0, series_.totalSeconds));
+}
+
+void TimelineView::setMarkStart(double seconds) { setMark(markStart_, seconds); }
+
+void TimelineView::setMarkEnd(double seconds) { setMark(markEnd_, seconds); }
+
+void TimelineView::clearMarks() {
+    if (!markStart_ && !markEnd_) return;
+    markStart_.reset();
+    markEnd_.reset();
+    describe();
+    update();
+}
+
+void TimelineView::setMark(std::optional<double>& mark, double seconds) {
+    if (!std::isfinite(seconds)) return;
+    mark = std::clamp(seconds, 0.0, series_.totalSeconds);
+    describe();
+    update();
 }
 
 void TimelineView::setSpeedUnitName(QString unitName) {
@@ -116,6 +138,7 @@ void TimelineView::paintEvent(QPaintEvent* event) {
     chart_.prepare(series_, seriesVersion_, size(), devicePixelRatio, unitName_);
     const double x = cursorX(position_, devicePixelRatio);
     chart_.paint(painter, event->rect(), x);
+    paintMarks(painter);
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(TimelineColours::label(), 1));
@@ -124,6 +147,19 @@ void TimelineView::paintEvent(QPaintEvent* event) {
         painter.setRenderHint(QPainter::Antialiasing, false);
     }
     if (series_.totalSeconds > 0 && event->rect().intersects(cursorStrip(x, x))) paintCursor(painter, x, height());
+}
+
+void TimelineView::paintMarks(QPainter& painter) const {
+    if (series_.totalSeconds <= 0 || (!markStart_ && !markEnd_)) return;
+    const double top = 1;
+    const double bottom = height() - TimelineLayout::kBottomInset + 2;
+    if (markStart_ && markEnd_) {
+        const double left = xAtTime(std::min(*markStart_, *markEnd_));
+        const double right = xAtTime(std::max(*markStart_, *markEnd_));
+        painter.fillRect(QRectF(left, top, right - left, bottom - top), TimelineColours::markedSpan());
+    }
+    for (const std::optional<double>& mark : {markStart_, markEnd_})
+        if (mark) painter.fillRect(QRectF(std::round(xAtTime(*mark)) - 1, top, 2, bottom - top), TimelineColours::markEdge());
 }
 
 void TimelineView::mousePressEvent(QMouseEvent* event) {
@@ -201,5 +237,13 @@ QRect TimelineView::cursorStrip(double fromX, double toX) const {
 }
 
 void TimelineView::describe() {
-    setAccessibleDescription(QString::fromStdString(seriesSummary(series_, unitName_.toStdString())));
+    std::string text = seriesSummary(series_, unitName_.toStdString());
+    if (markStart_ && markEnd_)
+        text += "; marked " + clockText(std::min(*markStart_, *markEnd_)) + " to " +
+                clockText(std::max(*markStart_, *markEnd_));
+    else if (markStart_)
+        text += "; marked from " + clockText(*markStart_);
+    else if (markEnd_)
+        text += "; marked up to " + clockText(*markEnd_);
+    setAccessibleDescription(QString::fromStdString(text));
 }

@@ -31,6 +31,15 @@ public:
     void setPosition(double seconds);
     double position() const { return position_; }
 
+    // The span marked for saving, in the series' seconds. Either end can be set alone and in
+    // either order; both survive seeks and new series (clamped to the length of any that has one)
+    // until cleared.
+    void setMarkStart(double seconds);
+    void setMarkEnd(double seconds);
+    void clearMarks();
+    std::optional<double> markStart() const { return markStart_; }
+    std::optional<double> markEnd() const { return markEnd_; }
+
     // The unit of the series' speeds ("KM/H", "MPH"), for the labels, tooltips and description.
     void setSpeedUnitName(QString unitName);
     const QString& speedUnitName() const { return unitName_; }
@@ -75,6 +84,8 @@ private:
     double cursorX(double seconds, double devicePixelRatio) const;
     QRect cursorStrip(double fromX, double toX) const;
     void describe();
+    void setMark(std::optional<double>& mark, double seconds);
+    void paintMarks(QPainter& painter) const;
 
     TimelineSeries series_;
     std::uint64_t seriesVersion_ = 1;
@@ -82,6 +93,8 @@ private:
     QString unitName_ = QStringLiteral("KM/H");
     std::function<QString(double)> hoverTextProvider_;
     double stepSeconds_ = 10;
+    std::optional<double> markStart_;
+    std::optional<double> markEnd_;
     bool dragging_ = false;
     std::optional<int> lastSeekPixel_;
     TimelineChartLayer chart_;

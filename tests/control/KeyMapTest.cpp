@@ -31,7 +31,7 @@ struct KeyRow {
 };
 
 TEST(PlayControlKeyMap, OnlyNoModifierAndCommandAloneGiveCommands) {
-    const std::array<KeyRow, 10> rows{{
+    const std::array<KeyRow, 12> rows{{
         {ControlKey::Left, GPSPlayControlBackward, GPSPlayControlPrev},
         {ControlKey::Right, GPSPlayControlForward, GPSPlayControlNext},
         {ControlKey::Down, GPSPlayControlVolumeDown, GPSPlayControlSpeedDown},
@@ -41,6 +41,8 @@ TEST(PlayControlKeyMap, OnlyNoModifierAndCommandAloneGiveCommands) {
         {ControlKey::F, GPSPlayControlNone, GPSPlayControlToggleFullscreen},
         {ControlKey::Comma, GPSPlayControlStepFrameBackward, GPSPlayControlNone},
         {ControlKey::Period, GPSPlayControlStepFrameForward, GPSPlayControlNone},
+        {ControlKey::I, GPSPlayControlMarkStart, GPSPlayControlNone},
+        {ControlKey::O, GPSPlayControlMarkEnd, GPSPlayControlNone},
         {ControlKey::Other, GPSPlayControlNone, GPSPlayControlNone},
     }};
     const std::array<uint64_t, 4> otherStatuses{kShift, kCtrl, kOption, kCmd | kShift};
@@ -60,13 +62,14 @@ TEST(PlayControlKeyMap, KnowsFByItsPlaceWhereTheScanCodeTellsIt) {
         bool xkb;
         ControlKey expected;
     };
-    const std::array<Row, 6> rows{{
+    const std::array<Row, 7> rows{{
         {0x0410, 41, true, ControlKey::F},      // Cyrillic А on the F key
         {Qt::Key_F, 0, true, ControlKey::F},    // no scan code: by its meaning
         {Qt::Key_F, 33, false, ControlKey::F},  // another platform's codes: by its meaning
         {Qt::Key_G, 42, true, ControlKey::Other},
         {0x0410, 0, false, ControlKey::Other},
         {Qt::Key_Delete, 119, true, ControlKey::Other},
+        {Qt::Key_I, 31, true, ControlKey::I},  // I and O by their meaning, even with a scan code
     }};
     for (const auto& row : rows) {
         EXPECT_EQ(PlayControlKeyMap::keyOf(row.qtKey, row.scanCode, row.xkb), row.expected)

@@ -38,6 +38,7 @@ public:
     void SpeedDown() override { record("SpeedDown", nullptr); }
     void SpeedUp() override { record("SpeedUp", nullptr); }
     void StepFrame(bool forward) override { record(forward ? "StepFrameForward" : "StepFrameBackward", nullptr); }
+    void MarkSpanEdge(bool start) override { record(start ? "MarkStart" : "MarkEnd", nullptr); }
     void UpdatePlayingStatus() override { record("UpdatePlayingStatus", nullptr); }
 
     bool isButtonEnabled(TransportButton button) const override { return !disabled.contains(button); }
@@ -76,7 +77,9 @@ TEST(PlayControlDispatch, RunsEachCodesHandlerWithTheSendingViewUnlessItsButtonI
         {GPSPlayControlSpeedUp, std::nullopt, {"SpeedUp"}},
         {GPSPlayControlStepFrameBackward, TransportButton::Snapshot, {"StepFrameBackward"}},
         {GPSPlayControlStepFrameForward, TransportButton::Snapshot, {"StepFrameForward"}},
-        {14, std::nullopt, {}},
+        {GPSPlayControlMarkStart, TransportButton::Snapshot, {"MarkStart"}},
+        {GPSPlayControlMarkEnd, TransportButton::Snapshot, {"MarkEnd"}},
+        {16, std::nullopt, {}},
         {0, std::nullopt, {}},
         {~uint64_t{0}, std::nullopt, {}},
     };
