@@ -12,6 +12,7 @@ const std::string unitTypeKey = "UnitType";
 const std::string volumeKey = "Volume";
 const std::string mapSourceKey = "MapSource";
 const std::string continuousPlayKey = "ContinuousPlay";
+const std::string stampSnapshotsKey = "StampSnapshots";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -92,3 +93,7 @@ void GPSUtils::setMapSource(const std::string& source) { settings_.setStringValu
 bool GPSUtils::continuousPlay() const { return settings_.unsignedValue(continuousPlayKey).value_or(0) != 0; }
 
 void GPSUtils::setContinuousPlay(bool on) { settings_.setUnsignedValue(continuousPlayKey, on ? 1 : 0); }
+
+bool GPSUtils::stampSnapshots() const { return settings_.unsignedValue(stampSnapshotsKey).value_or(0) != 0; }
+
+void GPSUtils::setStampSnapshots(bool on) { settings_.setUnsignedValue(stampSnapshotsKey, on ? 1 : 0); }

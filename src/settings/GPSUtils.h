@@ -36,6 +36,10 @@ public:
     // Whether the end of a clip starts the next clip of the same trip; off until the user turns it on.
     bool continuousPlay() const;
     void setContinuousPlay(bool on);
+    // Whether a saved snapshot gets the speed, place and time drawn across its bottom; off until
+    // the user ticks it in the save dialog.
+    bool stampSnapshots() const;
+    void setStampSnapshots(bool on);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }
