@@ -1,11 +1,15 @@
 // How long a snapshot keeps the user interface waiting, stage by stage: opening the movie, seeking
 // and decoding to the frame, converting it to RGB, encoding the PNG; and the whole of it, as the
-// player view's snapshot runs it. On H.264 clips with a keyframe every second, as dash cameras
+// player view's snapshot runs it. Drawing the stamp, which a worker does with the encoding, is a
+// stage of its own. On H.264 clips with a keyframe every second, as dash cameras
 // write them, at a time half-way between two keyframes.
 #include "FrameGrabber.h"
 #include "PngEncoder.h"
 #include "RgbConverter.h"
+#include "SnapshotStamp.h"
 #include "VideoFrameReader.h"
+
+#include <QGuiApplication>
 
 #include <benchmark/benchmark.h>
 
@@ -52,6 +56,19 @@ void encodePng(benchmark::State& state, const std::filesystem::path& clip) {
     state.counters["png_MB"] = static_cast<double>(bytes) / 1e6;
 }
 
+void drawStamp(benchmark::State& state, const std::filesystem::path& clip) {
+    const auto image = FrameGrabber::frameAt(clip, kMidGop);
+    if (!image) return state.SkipWithError("no frame");
+    const std::vector<StampItem> items{
+        {"63", "KM/H"}, {"LAT 48.85837", ""}, {"LON 2.29448", ""}, {"2024-05-01 12:34:56", ""}};
+    for (auto _ : state) {
+        state.PauseTiming();
+        RgbImage frame = *image;
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(SnapshotStamp::draw(frame, items, StampFaces{}));
+    }
+}
+
 void wholeSnapshot(benchmark::State& state, const std::filesystem::path& clip) {
     for (auto _ : state) {
         const auto image = FrameGrabber::frameAt(clip, kMidGop);
@@ -64,11 +81,8 @@ void registerClip(const std::string& name, const std::filesystem::path& clip) {
     const struct {
         const char* stage;
         void (*run)(benchmark::State&, const std::filesystem::path&);
-    } stages[] = {{"open", openMovie},
-                  {"decode", decodeFrame},
-                  {"rgb", convertToRgb},
-                  {"png", encodePng},
-                  {"snapshot", wholeSnapshot}};
+    } stages[] = {{"open", openMovie}, {"decode", decodeFrame}, {"rgb", convertToRgb},
+                  {"png", encodePng},  {"stamp", drawStamp},    {"snapshot", wholeSnapshot}};
     for (const auto& stage : stages) {
         benchmark::RegisterBenchmark((std::string(stage.stage) + "/" + name).c_str(), stage.run, clip)
             ->Unit(benchmark::kMillisecond)
@@ -81,6 +95,9 @@ void registerClip(const std::string& name, const std::filesystem::path& clip) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    // The stamp's text needs Qt's font database, which comes with a GUI application.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
     registerClip("720p", SNAPSHOT_BENCH_720P);
     registerClip("2160p", SNAPSHOT_BENCH_2160P);
     benchmark::Initialize(&argc, argv);

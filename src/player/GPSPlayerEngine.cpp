@@ -219,16 +219,30 @@ void GPSPlayerEngine::update() {
 }
 
 std::optional<std::vector<uint8_t>> GPSPlayerEngine::snapshot() const {
+    const std::optional<SnapshotFrame> frame = snapshotFrame();
+    if (!frame) return std::nullopt;
+    return PngEncoder::encode(frame->image);
+}
+
+std::optional<SnapshotFrame> GPSPlayerEngine::snapshotFrame() const {
     if (!mediaPlayer_ || mediaPlayer_->timeControlStatus() == PlayerStatus::Waiting || !fileURL_) {
         return std::nullopt;
     }
     const MediaTime at = mediaPlayer_->hasItem() ? mediaPlayer_->currentTime() : MediaTime{};
-    const std::optional<RgbImage> frame = FrameGrabber::frameAt(*fileURL_, at);
+    std::optional<RgbImage> frame = FrameGrabber::frameAt(*fileURL_, at);
     if (!frame) {
         qCDebug(lcPlayerEngine) << "no frame at" << at.seconds() << "in" << QByteArray(fileURL_->c_str());
         return std::nullopt;
     }
-    return PngEncoder::encode(*frame);
+    return SnapshotFrame{std::move(*frame), *fileURL_, at.isValid() ? at.seconds() : 0.0};
+}
+
+std::optional<GPSData> GPSPlayerEngine::currentSample() const {
+    const int64_t index = cursor_.curIndex();
+    if (gpsDataList_ && index >= 0 && static_cast<uint64_t>(index) < gpsDataList_->size()) {
+        return (*gpsDataList_)[static_cast<std::size_t>(index)];
+    }
+    return std::nullopt;
 }
 
 std::string GPSPlayerEngine::currentSpeedText() const {

@@ -7,6 +7,7 @@
 #include "GPSData.h"
 #include "GPSPlayerViewDelegate.h"
 #include "MediaPlayer.h"
+#include "SnapshotFrame.h"
 #include "TrackCursor.h"
 #include "UpdateTimer.h"
 #include "VideoSurface.h"
@@ -93,6 +94,10 @@ public:
     // The frame at the current playback time as PNG bytes; nothing without a player, while it
     // waits, or when the frame cannot be taken from the file.
     std::optional<std::vector<uint8_t>> snapshot() const;
+    // The same frame as a picture, with the movie and the playback time it was taken at.
+    std::optional<SnapshotFrame> snapshotFrame() const;
+    // The sample of the track at the cursor, the last one reported; nothing before the first.
+    std::optional<GPSData> currentSample() const;
     // The speed text of the current sample, "00.00" when there is none.
     std::string currentSpeedText() const;
 

@@ -19,6 +19,7 @@ const std::string tileCacheKey = "TileCacheMegabytes";
 const std::string clockCorrectionKey = "ClockCorrection";
 const std::string videoRendererKey = "VideoRenderer";
 const std::string exportFormatKey = "ExportFormat";
+const std::string stampSnapshotsKey = "StampSnapshots";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -137,3 +138,6 @@ void GPSUtils::setVideoRenderer(RendererPreference preference) {
 std::optional<std::string> GPSUtils::exportFormat() const { return settings_.stringValue(exportFormatKey); }
 
 void GPSUtils::setExportFormat(const std::string& format) { settings_.setStringValue(exportFormatKey, format); }
+bool GPSUtils::stampSnapshots() const { return settings_.unsignedValue(stampSnapshotsKey).value_or(0) != 0; }
+
+void GPSUtils::setStampSnapshots(bool on) { settings_.setUnsignedValue(stampSnapshotsKey, on ? 1 : 0); }

@@ -51,6 +51,10 @@ public:
     // "csv"); absent until the user exports, and whatever the file holds: the reader checks it.
     std::optional<std::string> exportFormat() const;
     void setExportFormat(const std::string& format);
+    // Whether a saved snapshot gets the speed, place and time drawn across its bottom; off until
+    // the user ticks it in the save dialog.
+    bool stampSnapshots() const;
+    void setStampSnapshots(bool on);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

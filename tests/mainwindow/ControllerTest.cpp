@@ -12,6 +12,7 @@
 #include "VideoTrackProbe.h"
 
 #include <QAction>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -21,6 +22,8 @@
 #include <QThreadPool>
 
 #include <gtest/gtest.h>
+
+#include <map>
 
 namespace {
 
@@ -262,6 +265,37 @@ TEST_F(ControllerTest, SnapshotIsTakenAtOnceAndWrittenOnlyWhereTheUserAccepts) {
             EXPECT_EQ(saved.size(), QSize(320, 180)) << "the movie's own pixel size";
         }
     }
+}
+
+TEST_F(ControllerTest, SnapshotStampIsRememberedAndTheFileCarriesTheSampleOnScreen) {
+    addMovies(1);
+    player->at(2.5);
+    tick();  // the sample at 2.5 s reaches the read-outs
+    std::map<bool, QImage> saved;
+    for (const bool stamp : {false, true, true}) {
+        controller.OnSnapshot(btSnapshot);
+        auto* dialog = window.findChild<QFileDialog*>(QStringLiteral("snapshotDialog"));
+        ASSERT_NE(dialog, nullptr);
+        auto* box = dialog->findChild<QCheckBox*>(QStringLiteral("stampCheckBox"));
+        ASSERT_NE(box, nullptr);
+        EXPECT_FALSE(box->accessibleName().isEmpty());
+        EXPECT_EQ(box->isChecked(), saved.contains(true)) << "off until turned on, then as it was left";
+        box->setChecked(stamp);
+        const QString file = QString::fromStdString((moviesFolder() / (stamp ? "stamped.png" : "plain.png")).string());
+        emit dialog->fileSelected(file);
+        dialog->close();
+        QCoreApplication::processEvents();
+        QThreadPool::globalInstance()->waitForDone();
+        saved[stamp] = QImage(file);
+        EXPECT_EQ(saved[stamp].text("Source").toStdString(), movie(0).string());
+        EXPECT_EQ(saved[stamp].text("Position"), QStringLiteral("2.500"));
+        EXPECT_FALSE(saved[stamp].text("Speed").isEmpty());
+    }
+    const QImage &plain = saved[false], &stamped = saved[true];
+    ASSERT_EQ(plain.size(), stamped.size());
+    const int bottom = plain.height() - 1;
+    EXPECT_EQ(plain.copy(0, 0, plain.width(), 1), stamped.copy(0, 0, plain.width(), 1)) << "the top row as taken";
+    EXPECT_NE(plain.copy(0, bottom, plain.width(), 1), stamped.copy(0, bottom, plain.width(), 1)) << "the band";
 }
 
 TEST_F(ControllerTest, ChoosingOneFileAddsEveryMovieOfItsFolderAndPlaysTheOldest) {

@@ -3,7 +3,9 @@
 #include <png.h>
 #include <zlib.h>
 
+#include <algorithm>
 #include <csetjmp>
+#include <deque>
 #include <new>
 
 namespace {
@@ -43,9 +45,78 @@ private:
     png_infop info_ = nullptr;
 };
 
+// PNG's rule for keywords: 1 to 79 printable Latin-1 bytes, no leading, trailing or double spaces.
+bool isValidKeyword(const std::string& keyword) {
+    if (keyword.empty() || keyword.size() > 79 || keyword.front() == ' ' || keyword.back() == ' ') return false;
+    if (keyword.find("  ") != std::string::npos) return false;
+    return std::all_of(keyword.begin(), keyword.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c);
+        return (byte >= 32 && byte <= 126) || byte >= 161;
+    });
+}
+
+bool isAscii(const std::string& text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 128; });
+}
+
+// Well-formed UTF-8: no stray continuation bytes, no overlong forms, surrogates or code points
+// past U+10FFFF.
+bool isUtf8(const std::string& text) {
+    std::size_t i = 0;
+    while (i < text.size()) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        std::size_t length = 0;
+        char32_t point = 0;
+        if (lead < 0x80) {
+            length = 1, point = lead;
+        } else if (lead >= 0xC2 && lead <= 0xDF) {
+            length = 2, point = lead & 0x1F;
+        } else if (lead >= 0xE0 && lead <= 0xEF) {
+            length = 3, point = lead & 0x0F;
+        } else if (lead >= 0xF0 && lead <= 0xF4) {
+            length = 4, point = lead & 0x07;
+        } else {
+            return false;
+        }
+        if (text.size() - i < length) return false;
+        for (std::size_t k = 1; k < length; ++k) {
+            const auto next = static_cast<unsigned char>(text[i + k]);
+            if ((next & 0xC0) != 0x80) return false;
+            point = (point << 6) | (next & 0x3F);
+        }
+        if ((length == 3 && (point < 0x800 || (point >= 0xD800 && point <= 0xDFFF))) ||
+            (length == 4 && (point < 0x10000 || point > 0x10FFFF))) {
+            return false;
+        }
+        i += length;
+    }
+    return true;
+}
+
+// The chunks as libpng takes them; they point into storage, whose strings stay where they are as
+// it grows.
+std::vector<png_text> textChunks(std::span<const PngText> texts, std::deque<std::string>& storage) {
+    std::vector<png_text> chunks;
+    for (const PngText& text : texts) {
+        if (!isValidKeyword(text.keyword)) continue;
+        storage.push_back(text.keyword);
+        char* keyword = storage.back().data();
+        storage.push_back(text.text.substr(0, text.text.find('\0')));
+        std::string& value = storage.back();
+        png_text chunk{};
+        chunk.key = keyword;
+        chunk.text = value.data();
+        chunk.text_length = value.size();
+        // A file name that is not UTF-8 stays as its bytes, which tEXt can hold.
+        chunk.compression = (!isAscii(value) && isUtf8(value)) ? PNG_ITXT_COMPRESSION_NONE : PNG_TEXT_COMPRESSION_NONE;
+        chunks.push_back(chunk);
+    }
+    return chunks;
+}
+
 // libpng reports its errors by longjmp to here; nothing between the setjmp and libpng's calls
 // needs a destructor.
-bool writePng(const PngWriteStruct& writer, const RgbImage& image, PngBytes& out) {
+bool writePng(const PngWriteStruct& writer, const RgbImage& image, std::span<png_text> texts, PngBytes& out) {
     png_structp png = writer.png();
     png_infop info = writer.info();
     if (setjmp(png_jmpbuf(png))) return false;
@@ -58,6 +129,7 @@ bool writePng(const PngWriteStruct& writer, const RgbImage& image, PngBytes& out
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_UP);
     png_set_compression_strategy(png, Z_RLE);
     png_set_compression_level(png, 1);
+    if (!texts.empty()) png_set_text(png, info, texts.data(), static_cast<int>(texts.size()));
     png_write_info(png, info);
     for (int y = 0; y < image.height; ++y) {
         png_write_row(png, image.pixels.data() + image.rowBytes() * static_cast<std::size_t>(y));
@@ -68,14 +140,16 @@ bool writePng(const PngWriteStruct& writer, const RgbImage& image, PngBytes& out
 
 }  // namespace
 
-std::optional<std::vector<uint8_t>> PngEncoder::encode(const RgbImage& image) {
+std::optional<std::vector<uint8_t>> PngEncoder::encode(const RgbImage& image, std::span<const PngText> texts) {
     if (image.width <= 0 || image.height <= 0 ||
         image.pixels.size() != image.rowBytes() * static_cast<std::size_t>(image.height)) {
         return std::nullopt;
     }
     const PngWriteStruct writer;
     if (writer.info() == nullptr) return std::nullopt;
+    std::deque<std::string> textStorage;
+    std::vector<png_text> chunks = textChunks(texts, textStorage);
     PngBytes out;
-    if (!writePng(writer, image, out) || out.failed) return std::nullopt;
+    if (!writePng(writer, image, chunks, out) || out.failed) return std::nullopt;
     return std::move(out.bytes);
 }

@@ -1,0 +1,93 @@
+#include "SnapshotFacts.h"
+
+#include "GPSData.h"
+#include "GPSUtils.h"
+
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+
+namespace {
+
+// Fixed-point text with a full stop: printf would follow the locale Qt sets from the environment.
+std::string fixed(double value, int precision) {
+    std::array<char, 64> text;
+    const auto result =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, precision);
+    if (result.ec != std::errc()) return "0";
+    return std::string(text.data(), result.ptr);
+}
+
+// The shortest text that reads back as the same float: the track holds coordinates as floats, and
+// digits past their precision would be noise.
+std::string shortestFixed(float value) {
+    std::array<char, 64> text;
+    const auto result = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+    if (result.ec != std::errc()) return "0";
+    return std::string(text.data(), result.ptr);
+}
+
+std::string twoDigits(unsigned value) { return std::string{char('0' + value / 10 % 10), char('0' + value % 10)}; }
+
+bool onTheGlobe(double latitude, double longitude) {
+    return std::isfinite(latitude) && std::isfinite(longitude) && std::fabs(latitude) <= 90 &&
+           std::fabs(longitude) <= 180 && !(latitude == 0 && longitude == 0);
+}
+
+// The sample's calendar date; nothing for a camera without a clock (all zero) or a date that
+// does not exist.
+std::optional<std::string> dateOf(const RMCINFO& f) {
+    using namespace std::chrono;
+    if (f.Year > 99) return std::nullopt;
+    const year_month_day date{year(2000 + int(f.Year)), month(f.Month), day(f.Day)};
+    if (f.Month > 12 || f.Day > 31 || !date.ok()) return std::nullopt;
+    return std::to_string(2000 + f.Year) + "-" + twoDigits(f.Month) + "-" + twoDigits(f.Day);
+}
+
+std::optional<std::string> timeOf(const RMCINFO& f) {
+    if (f.Hour > 23 || f.Minute > 59 || f.Second > 60) return std::nullopt;
+    return twoDigits(f.Hour) + ":" + twoDigits(f.Minute) + ":" + twoDigits(f.Second);
+}
+
+}  // namespace
+
+SnapshotFacts::SnapshotFacts(const std::optional<GPSData>& sample, bool kilometresPerHour, std::filesystem::path source,
+                             double seconds)
+    : source_(std::move(source)), seconds_(std::isfinite(seconds) ? seconds : 0) {
+    if (!sample || !onTheGlobe(sample->Latitude(), sample->Longitude())) return;
+    Sample facts;
+    const double speed = kilometresPerHour ? sample->SpeedKMH() : sample->SpeedMPH();
+    // A speed no car drives is a misread record: left out rather than printed as a wild number.
+    if (std::isfinite(speed) && speed >= 0 && speed < 10000) facts.speed = speed;
+    facts.unit = kilometresPerHour ? GPSUtils::SpeedUnitNameKMH() : GPSUtils::SpeedUnitNameMPH();
+    facts.latitude = sample->Latitude();
+    facts.longitude = sample->Longitude();
+    const RMCINFO record = sample->data().rmcinfo;
+    facts.date = dateOf(record);
+    if (facts.date) facts.time = timeOf(record);
+    sample_ = std::move(facts);
+}
+
+std::vector<PngText> SnapshotFacts::textChunks() const {
+    std::vector<PngText> chunks{{"Software", "Dashtrack"}};
+    if (sample_) {
+        if (sample_->speed) chunks.push_back({"Speed", fixed(*sample_->speed, 2) + " " + sample_->unit});
+        chunks.push_back({"Latitude", shortestFixed(sample_->latitude)});
+        chunks.push_back({"Longitude", shortestFixed(sample_->longitude)});
+        if (sample_->date && sample_->time) chunks.push_back({"DateTime", *sample_->date + "T" + *sample_->time});
+    }
+    chunks.push_back({"Source", source_.string()});
+    chunks.push_back({"Position", fixed(seconds_, 3)});
+    return chunks;
+}
+
+std::vector<StampItem> SnapshotFacts::stampItems() const {
+    if (!sample_) return {};
+    std::vector<StampItem> items;
+    if (sample_->speed) items.push_back({std::to_string(std::lround(*sample_->speed)), sample_->unit});
+    items.push_back({"LAT " + fixed(sample_->latitude, 5), {}});
+    items.push_back({"LON " + fixed(sample_->longitude, 5), {}});
+    if (sample_->date && sample_->time) items.push_back({*sample_->date + " " + *sample_->time, {}});
+    return items;
+}
