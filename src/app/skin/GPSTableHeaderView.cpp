@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QTableView>
 
+#include <algorithm>
+
 GPSTableHeaderView::GPSTableHeaderView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setAccessibleName(QStringLiteral("Columns"));
     // The strip past the last section matches the sections.
@@ -39,6 +41,13 @@ void GPSTableHeaderView::paintSection(QPainter* painter, const QRect& rect, int 
     if (painter == nullptr || !rect.isValid()) return;
     const QString title = model() != nullptr ? model()->headerData(logicalIndex, orientation()).toString() : QString();
     GPSTableHeaderCell(title).paint(*painter, rect, isLeftmost(logicalIndex));
+}
+
+QSize GPSTableHeaderView::sectionSizeFromContents(int logicalIndex) const {
+    QSize size = QHeaderView::sectionSizeFromContents(logicalIndex);
+    const QString title = model() != nullptr ? model()->headerData(logicalIndex, orientation()).toString() : QString();
+    size.setWidth(std::max(size.width(), GPSTableHeaderCell::preferredWidth(title)));
+    return size;
 }
 
 bool GPSTableHeaderView::isLeftmost(int logicalIndex) const {
