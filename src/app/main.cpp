@@ -6,14 +6,18 @@
 #include "FFmpegVideoTrackProbe.h"
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"
+#include "InterfaceTranslator.h"
 #include "MainWindow.h"
 #include "MovieArguments.h"
+#include "UiLanguage.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <clocale>
 #include <optional>
+#include <string>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -26,19 +30,24 @@ int main(int argc, char** argv) {
     GPSUtils& settings = GPSUtils::sharedUtils();
     settings.setVideoTrackProbe(defaultVideoTrackProbe());
 
+    // The help in the window's language; the window puts in its own translator.
+    InterfaceTranslator helpLanguage;
+    helpLanguage.use(startupLanguage(settings.language(), QLocale::system().uiLanguages()));
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));
+    parser.setApplicationDescription(QCoreApplication::translate("main", "Plays dash camera movies with their GPS tracks."));
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("movies"), QStringLiteral("Movie files or folders of movies."),
+    parser.addPositionalArgument(QCoreApplication::translate("main", "movies"),
+                                 QCoreApplication::translate("main", "Movie files or folders of movies."),
                                  QStringLiteral("[FILE|FOLDER]..."));
     const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),
-                                       QStringLiteral("Quit once a movie has played to its end."));
+                                       QCoreApplication::translate("main", "Quit once a movie has played to its end."));
     parser.addOption(quitAtEnd);
     const QCommandLineOption quitAtFirstFrame(
         QStringLiteral("quit-at-first-frame"),
-        QStringLiteral("Quit once the first movie's first frame is on screen (for timing launches)."));
+        QCoreApplication::translate("main", "Quit once the first movie's first frame is on screen (for timing launches)."));
     parser.addOption(quitAtFirstFrame);
     parser.process(app);
+    helpLanguage.use(std::string(englishLanguage));
 
     std::optional<BenchProbe> benchProbe;
     if (BenchProbe::wanted(parser.isSet(quitAtFirstFrame))) benchProbe.emplace(parser.isSet(quitAtFirstFrame));

@@ -69,6 +69,8 @@ public:
     void OnShowAbout();
     void OnHideAbout();
     void OnPreference(QObject* sender);
+    // The texts made in code, in the language just chosen (MainWindowDelegateLanguage.cpp).
+    void retranslate();
 
     // Transport commands (control/). A null sender means "called by another handler".
     void OnPlay(QObject* sender) override;

@@ -12,6 +12,7 @@ const std::string unitTypeKey = "UnitType";
 const std::string volumeKey = "Volume";
 const std::string mapSourceKey = "MapSource";
 const std::string continuousPlayKey = "ContinuousPlay";
+const std::string languageKey = "Language";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -92,3 +93,7 @@ void GPSUtils::setMapSource(const std::string& source) { settings_.setStringValu
 bool GPSUtils::continuousPlay() const { return settings_.unsignedValue(continuousPlayKey).value_or(0) != 0; }
 
 void GPSUtils::setContinuousPlay(bool on) { settings_.setUnsignedValue(continuousPlayKey, on ? 1 : 0); }
+
+std::optional<std::string> GPSUtils::language() const { return settings_.stringValue(languageKey); }
+
+void GPSUtils::setLanguage(const std::string& language) { settings_.setStringValue(languageKey, language); }

@@ -6,6 +6,7 @@
 #include "TimelineText.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -49,7 +50,7 @@ TimelineView::TimelineView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(QStringLiteral("Timeline"));
+    setAccessibleName(tr("Timeline"));
     describe();
 }
 
@@ -83,7 +84,7 @@ QString TimelineView::hoverText(double seconds) const {
     if (hoverTextProvider_) return hoverTextProvider_(seconds);
     const std::optional<TimelinePoint> point = series_.pointAt(seconds);
     const QString speed =
-        point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString())) : QStringLiteral("no GPS");
+        point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString())) : tr("no GPS");
     return QString::fromStdString(clockText(seconds)) + QStringLiteral("  ") + speed;
 }
 
@@ -201,5 +202,18 @@ QRect TimelineView::cursorStrip(double fromX, double toX) const {
 }
 
 void TimelineView::describe() {
-    setAccessibleDescription(QString::fromStdString(seriesSummary(series_, unitName_.toStdString())));
+    const SeriesPhrases phrases{
+        .noSpeed = tr("No speed recorded over %1").toStdString(),
+        .highest = tr("Speed over %1, highest %2 at %3").toStdString(),
+    };
+    setAccessibleDescription(QString::fromStdString(seriesSummary(series_, unitName_.toStdString(), phrases)));
+}
+
+void TimelineView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Timeline"));
+        describe();
+        QWidget::update();
+    }
+    QWidget::changeEvent(event);
 }

@@ -3,18 +3,24 @@
 #include "GPSTableHeaderCell.h"
 #include "SkinColours.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QTableView>
 
 #include <algorithm>
 
 GPSTableHeaderView::GPSTableHeaderView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
-    setAccessibleName(QStringLiteral("Columns"));
+    setAccessibleName(tr("Columns"));
     // The strip past the last section matches the sections.
     QPalette colours = palette();
     colours.setColor(QPalette::Button, SkinColours::headerBackground());
     colours.setColor(QPalette::ButtonText, SkinColours::headerText());
     setPalette(colours);
+}
+
+void GPSTableHeaderView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) setAccessibleName(tr("Columns"));
+    QHeaderView::changeEvent(event);
 }
 
 QSize GPSTableHeaderView::sizeHint() const {

@@ -37,7 +37,7 @@ void MainWindowDelegate::OnSnapshot(QObject* /*sender*/) {
     dialog->setObjectName(QStringLiteral("snapshotDialog"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setNameFilter(QStringLiteral("PNG image (*.png)"));
+    dialog->setNameFilter(tr("PNG images (%1)").arg(QStringLiteral("*.png")));
     dialog->setDefaultSuffix(QStringLiteral("png"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     // The bytes live with the dialog: taken now, written only if the user accepts.
