@@ -582,7 +582,7 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
     </message>
     <message>
         <source>Speed over %1, highest %2 at %3</source>
-        <translation>%1 の速度、最高 %2（%3）</translation>
+        <translation>%1 間の速度、最高は %3 の %2</translation>
     </message>
 </context>
 <context>

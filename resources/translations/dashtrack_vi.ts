@@ -107,7 +107,7 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
     </message>
     <message>
         <source>Previous</source>
-        <translation>Trước</translation>
+        <translation>Đoạn trước</translation>
     </message>
     <message>
         <source>Previous movie (Ctrl+Left)</source>
@@ -155,7 +155,7 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
     </message>
     <message>
         <source>Next</source>
-        <translation>Tiếp</translation>
+        <translation>Đoạn tiếp theo</translation>
     </message>
     <message>
         <source>Next movie (Ctrl+Right)</source>

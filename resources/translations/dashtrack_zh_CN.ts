@@ -582,7 +582,7 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
     </message>
     <message>
         <source>Speed over %1, highest %2 at %3</source>
-        <translation>%1 内的车速，最高 %2，位于 %3</translation>
+        <translation>%1 内的车速，%3 时最高，为 %2</translation>
     </message>
 </context>
 <context>

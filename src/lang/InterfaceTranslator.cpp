@@ -16,12 +16,8 @@ void InterfaceTranslator::use(const std::string& language) {
     if (language == language_) return;
     removeInstalled();
     language_ = isUiLanguage(language) ? language : std::string(englishLanguage);
-    if (language_ == englishLanguage) {
-        // Nothing to install: tell the widgets to go back to their sources' texts.
-        QEvent change(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
-        return;
-    }
+    // Removing a translation has told the widgets to go back to their sources' texts.
+    if (language_ == englishLanguage) return;
     const QString code = QString::fromStdString(language_);
     if (qt_.load(QStringLiteral(":/i18n/qtbase_") + code)) qtInstalled_ = QCoreApplication::installTranslator(&qt_);
     if (program_.load(QStringLiteral(":/i18n/dashtrack_") + code))
