@@ -12,16 +12,20 @@
 #include "InstanceClient.h"
 #include "InstanceServer.h"
 #include "InstanceSocketName.h"
+#include "InterfaceTranslator.h"
 #include "MainWindow.h"
 #include "MovieArguments.h"
 #include "MprisService.h"
+#include "UiLanguage.h"
 #include "VideoRendererChoice.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 
 #include <clocale>
 #include <optional>
+#include <string>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -37,24 +41,29 @@ int main(int argc, char** argv) {
     settings.setVideoTrackProbe(defaultVideoTrackProbe());
     setPreferredVideoRenderer(rendererPreferenceWord(settings.videoRenderer()));
 
+    // The help in the window's language; the window puts in its own translator.
+    InterfaceTranslator helpLanguage;
+    helpLanguage.use(startupLanguage(settings.language(), QLocale::system().uiLanguages()));
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Plays dash camera movies with their GPS tracks."));
+    parser.setApplicationDescription(QCoreApplication::translate("main", "Plays dash camera movies with their GPS tracks."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("movies"), QStringLiteral("Movie files or folders of movies."),
+    parser.addPositionalArgument(QCoreApplication::translate("main", "movies"),
+                                 QCoreApplication::translate("main", "Movie files or folders of movies."),
                                  QStringLiteral("[FILE|FOLDER]..."));
     const QCommandLineOption quitAtEnd(QStringLiteral("quit-at-end"),
-                                       QStringLiteral("Quit once a movie has played to its end."));
+                                       QCoreApplication::translate("main", "Quit once a movie has played to its end."));
     parser.addOption(quitAtEnd);
     const QCommandLineOption quitAtFirstFrame(
         QStringLiteral("quit-at-first-frame"),
-        QStringLiteral("Quit once the first movie's first frame is on screen (for timing launches)."));
+        QCoreApplication::translate("main", "Quit once the first movie's first frame is on screen (for timing launches)."));
     parser.addOption(quitAtFirstFrame);
     const QCommandLineOption newWindow(
         QStringLiteral("new-window"),
         QStringLiteral("Open a window of its own instead of adding the movies to the one already open."));
     parser.addOption(newWindow);
     parser.process(app);
+    helpLanguage.use(std::string(englishLanguage));
 
     // From argv, not the parser: its QStrings would lose the bytes of a name that is not UTF-8.
     const std::vector<std::filesystem::path> movies = movieArguments(argc, argv);

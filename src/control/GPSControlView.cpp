@@ -4,6 +4,7 @@
 #include "PlayControlKeyMap.h"
 
 #include <QDragEnterEvent>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -28,7 +29,7 @@ GPSControlView::GPSControlView(QWidget* parent) : GPSControlView(GPSUtils::share
 GPSControlView::GPSControlView(const GPSUtils& utils, QWidget* parent) : QWidget(parent), movieFilter_(utils) {
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
-    setAccessibleName(QStringLiteral("Player controls"));
+    setAccessibleName(tr("Player controls"));
 }
 
 FilePasteboard GPSControlView::pasteboardOf(const QMimeData& data) {
@@ -40,6 +41,11 @@ FilePasteboard GPSControlView::pasteboardOf(const QMimeData& data) {
         if (!name.isEmpty()) pasteboard.filenames->emplace_back(name.constData(), name.size());
     }
     return pasteboard;
+}
+
+void GPSControlView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) setAccessibleName(tr("Player controls"));
+    QWidget::changeEvent(event);
 }
 
 bool GPSControlView::event(QEvent* event) {

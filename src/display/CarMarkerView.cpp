@@ -1,5 +1,6 @@
 #include "CarMarkerView.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -16,7 +17,19 @@ constexpr int kSide = 48;
 CarMarkerView::CarMarkerView(QWidget* parent)
     : QWidget(parent), car_(new QSvgRenderer(QStringLiteral(":/car.svg"), this)) {
     setFixedSize(kSide, kSide);
-    setAccessibleName(QStringLiteral("Car"));
+    setAccessibleName(tr("Car"));
+}
+
+void CarMarkerView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Car"));
+        describeHeading();
+    }
+    QWidget::changeEvent(event);
+}
+
+void CarMarkerView::describeHeading() {
+    setAccessibleDescription(heading_ ? tr("Heading %1°").arg(std::lround(*heading_) % 360) : QString());
 }
 
 void CarMarkerView::setHeading(std::optional<double> degrees) {
@@ -24,7 +37,7 @@ void CarMarkerView::setHeading(std::optional<double> degrees) {
     if (degrees) *degrees = std::fmod(*degrees, 360.0) + (*degrees < 0 ? 360.0 : 0.0);
     if (degrees == heading_) return;
     heading_ = degrees;
-    setAccessibleDescription(heading_ ? tr("Heading %1°").arg(std::lround(*heading_) % 360) : QString());
+    describeHeading();
     update();
 }
 

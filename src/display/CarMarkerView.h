@@ -25,8 +25,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void describeHeading();
+
     QSvgRenderer* car_;
     std::optional<double> heading_;
 };

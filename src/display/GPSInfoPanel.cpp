@@ -4,6 +4,10 @@
 #include "GPSUtils.h"
 #include "LEDFontManager.h"
 
+#include <QApplication>
+#include <QRawFont>
+
+#include <algorithm>
 #include <initializer_list>
 
 namespace {
@@ -16,6 +20,24 @@ void setFont(std::initializer_list<QLabel*> labels, qreal pointSize) {
     const QFont font = LEDFont(pointSize);
     for (QLabel* label : labels)
         if (label != nullptr) label->setFont(font);
+}
+
+// A word in a language whose letters the LED font lacks (Vietnamese "VĨ ĐỘ") would mix LED
+// letters with another font's: such a label is in the plain font as a whole.
+void setWordFont(std::initializer_list<QLabel*> labels, qreal pointSize) {
+    const QFont led = LEDFont(pointSize);
+    // The face itself, not the fallbacks that font matching would add.
+    const QRawFont face = QRawFont::fromFont(led);
+    QFont plain = QApplication::font();
+    plain.setPointSizeF(pointSize);
+    for (QLabel* label : labels) {
+        if (label == nullptr) continue;
+        const QString text = label->text();
+        const auto ucs4 = text.toUcs4();
+        const bool ledHasAll = std::all_of(ucs4.begin(), ucs4.end(),
+                                           [&](char32_t c) { return c == U' ' || face.supportsCharacter(c); });
+        label->setFont(ledHasAll ? led : plain);
+    }
 }
 
 }  // namespace
@@ -36,8 +58,10 @@ GPSInfoPanel::GPSInfoPanel(const GPSInfoPanelLabels& labels, const GPSUtils& set
 
 void GPSInfoPanel::setupFonts() const {
     setFont({txtSpeed_}, speedPointSize);
-    setFont({lblLatitude_, txtLatitude_, lblLongitude_, txtLongitude_}, positionPointSize);
-    setFont({lblDate_, txtDate_, lblTime_, txtTime_}, dateTimePointSize);
+    setFont({txtLatitude_, txtLongitude_}, positionPointSize);
+    setWordFont({lblLatitude_, lblLongitude_}, positionPointSize);
+    setFont({txtDate_, txtTime_}, dateTimePointSize);
+    setWordFont({lblDate_, lblTime_}, dateTimePointSize);
 }
 
 void GPSInfoPanel::show(const GPSData& data) const {

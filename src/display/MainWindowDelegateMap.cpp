@@ -16,6 +16,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QLoggingCategory>
@@ -40,7 +41,8 @@ public:
         const bool shown = car_ != nullptr;
         if (!shown) car_ = std::make_shared<MapAnnotation>();
         car_->coordinate = coordinate;
-        car_->title = QString::fromStdString(title);
+        // The tracker names its car in English; the callout says it in the interface's language.
+        car_->title = title == "Car" ? QCoreApplication::translate("RouteTracker", "Car") : QString::fromStdString(title);
         car_->heading = heading_;
         if (shown)
             map_.annotationChanged(car_);
@@ -156,15 +158,15 @@ void MainWindowDelegate::OnMapSourceChanged(const std::string& source) {
 }
 
 void MainWindowDelegate::OnOpenMapFile(bool folder) {
-    auto* dialog = new QFileDialog(outlets_.window, folder ? QStringLiteral("Open Tile Folder")
-                                                           : QStringLiteral("Open MBTiles File"));
+    auto* dialog = new QFileDialog(outlets_.window, folder ? tr("Open Tile Folder") : tr("Open MBTiles File"));
+    dialog->setObjectName(folder ? QStringLiteral("tileFolderDialog") : QStringLiteral("mbtilesDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (folder) {
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setOption(QFileDialog::ShowDirsOnly);
     } else {
         dialog->setFileMode(QFileDialog::ExistingFile);
-        dialog->setNameFilter(QStringLiteral("MBTiles (*.mbtiles)"));
+        dialog->setNameFilter(tr("MBTiles files (*.mbtiles)"));
     }
     QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, folder](const QString& file) {
         OnMapSourceChanged((folder ? "folder:" : "mbtiles:") + QFile::encodeName(file).toStdString());

@@ -5,14 +5,18 @@
 #include "GPSControlView.h"
 #include "GPSPlayerView.h"
 #include "GPSTableView.h"
+#include "GPSUtils.h"
+#include "LanguageMenu.h"
 #include "MainWindowConnections.h"
 #include "SetupTitleBar.h"
 #include "SkinControls.h"
+#include "UiLanguage.h"
 #include "WindowChromeMode.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
 #include <QEvent>
+#include <QLocale>
 
 
 namespace {
@@ -88,6 +92,7 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
     : QMainWindow(parent),
       ui_(std::make_unique<Ui::MainWindow>()),
       controller_(std::make_unique<MainWindowDelegate>(settings)) {
+    translator_.use(startupLanguage(settings.language(), QLocale::system().uiLanguages()));
     ui_->setupUi(this);
     // Before the window is first shown: a frameless window must be made so from the start.
     SetupTitleBarForMainWindow(*this, currentChromeMode());
@@ -107,6 +112,12 @@ MainWindow::MainWindow(GPSUtils& settings, QWidget* parent)
     ui_->controlView->setDelegate(controller_.get());
     ui_->player->engine().setDelegate(controller_.get());
     connectMainWindow(*ui_, *controller_);
+    // Owned by the window.
+    new LanguageMenu({{ui_->languageChinese, "zh_CN"},
+                      {ui_->languageEnglish, "en"},
+                      {ui_->languageJananese, "ja"},
+                      {ui_->languageVietnamese, "vi"}},
+                     translator_, settings, this);
     ui_->controlView->setFocus();
 }
 
@@ -119,6 +130,14 @@ MainWindow::~MainWindow() {
 bool MainWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) controller_->windowDidBecomeMain();
     return QMainWindow::event(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        controller_->retranslate();
+    }
+    QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

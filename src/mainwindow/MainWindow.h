@@ -2,6 +2,7 @@
 // The main window: builds itself from its interface description (MainWindow.ui), hands its items
 // to the controller, and tells the controller of its activation and closing.
 
+#include "InterfaceTranslator.h"
 #include "MainWindowDelegate.h"
 
 #include <QMainWindow>
@@ -28,9 +29,13 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    // A new language: the interface description's texts and those made in code, again.
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // First in, last out: the window's texts are made in its language from the start.
+    InterfaceTranslator translator_;
     std::unique_ptr<Ui::MainWindow> ui_;
     // Destroyed before the items (children of the window) it refers to.
     std::unique_ptr<MainWindowDelegate> controller_;

@@ -73,6 +73,8 @@ public:
     void OnPreference(QObject* sender);
     // The unit to show, from the Units menu or the preferences: 1 KM/H, 0 MPH.
     void useUnit(uint64_t unitType);
+    // The texts made in code, in the language just chosen (MainWindowDelegateLanguage.cpp).
+    void retranslate();
 
     // Transport commands (control/). A null sender means "called by another handler".
     void OnPlay(QObject* sender) override;

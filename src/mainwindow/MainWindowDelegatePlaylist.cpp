@@ -95,10 +95,9 @@ void MainWindowDelegate::addToPlaylist(const std::vector<std::filesystem::path>&
 }
 
 void MainWindowDelegate::watchScan(MovieScan* scan) {
-    auto* progress = new QProgressDialog(QStringLiteral("Looking for movies…"), QStringLiteral("Cancel"), 0, 0,
-                                         outlets_.window);
+    auto* progress = new QProgressDialog(tr("Looking for movies…"), tr("Cancel"), 0, 0, outlets_.window);
     progress->setObjectName(QStringLiteral("scanProgress"));
-    progress->setWindowTitle(QStringLiteral("Opening movies"));
+    progress->setWindowTitle(tr("Opening movies"));
     progress->setWindowModality(Qt::NonModal);
     progress->setMinimumDuration(kProgressDelayMs);
     progress->setAutoReset(false);
@@ -129,11 +128,11 @@ void MainWindowDelegate::openArguments(const std::vector<std::filesystem::path>&
 }
 
 void MainWindowDelegate::OnOpenMediaFile(QObject* /*sender*/) {
-    auto* dialog = new QFileDialog(outlets_.window, QStringLiteral("Open movie file"));
+    auto* dialog = new QFileDialog(outlets_.window, tr("Open movie file"));
     dialog->setObjectName(QStringLiteral("openDialog"));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     // The six spellings a camera writes; clip.mP4 is not one of them.
-    dialog->setNameFilter(QStringLiteral("Movies (*.mov *.MOV *.Mov *.mp4 *.MP4 *.Mp4)"));
+    dialog->setNameFilter(tr("Movies (%1)").arg(QStringLiteral("*.mov *.MOV *.Mov *.mp4 *.MP4 *.Mp4")));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &QFileDialog::filesSelected, this, [this](const QStringList& files) {
         if (files.isEmpty()) return;

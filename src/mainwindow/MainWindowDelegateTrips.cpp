@@ -14,6 +14,7 @@
 #include "TripText.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QFile>
 #include <QLabel>
 #include <QSlider>
@@ -25,6 +26,19 @@
 namespace {
 
 QString qText(const std::string& text) { return QString::fromStdString(text); }
+
+std::string phrase(const char* source) { return QCoreApplication::translate("TripText", source).toStdString(); }
+
+// The trip sentences' words in the interface's language.
+TripPhrases translatedTripPhrases() {
+    return {
+        .unknownTrip = phrase(QT_TRANSLATE_NOOP("TripText", "Trip %1 of %2")),
+        .tripFrom = phrase(QT_TRANSLATE_NOOP("TripText", "Trip %1 of %2: %3, from %4, %5, %6")),
+        .tripWithoutStart = phrase(QT_TRANSLATE_NOOP("TripText", "Trip %1 of %2: %3, %4, %5")),
+        .oneClip = phrase(QT_TRANSLATE_NOOP("TripText", "%1 clip")),
+        .clips = phrase(QT_TRANSLATE_NOOP("TripText", "%1 clips")),
+    };
+}
 
 // Whether every clip of the trip that holds row has been read.
 bool tripKnown(const TripIndex& trips, int64_t row) {
@@ -57,12 +71,13 @@ void MainWindowDelegate::refreshTrips() {
 
     if (playlistModel_ != nullptr) {
         std::vector<PlaylistTableModel::RowDecoration> decorations(files.size());
+        const TripPhrases phrases = translatedTripPhrases();
         const std::vector<TripInfo>& trips = tripIndex_.trips();
         for (std::size_t trip = 0; trip < trips.size(); ++trip) {
             const TripInfo& info = trips[trip];
             // A lone clip not read yet is no trip to speak of.
             if (!info.known && info.span.count == 1) continue;
-            const QString summary = qText(tripSummaryText(info, trip + 1, trips.size()));
+            const QString summary = qText(tripSummaryText(info, trip + 1, trips.size(), phrases));
             for (std::size_t row = info.span.first; row < info.span.first + info.span.count; ++row) {
                 auto& decoration = decorations[row];
                 decoration.tripNumber = static_cast<int>(trip + 1);
@@ -73,7 +88,7 @@ void MainWindowDelegate::refreshTrips() {
         }
         for (std::size_t row = 0; row < files.size(); ++row) {
             const auto problem = clipProblems_.find(files[row]);
-            if (problem != clipProblems_.end()) decorations[row].problem = problem->second;
+            if (problem != clipProblems_.end()) decorations[row].problem = tr(qPrintable(problem->second));
         }
         playlistModel_->setRowDecorations(std::move(decorations));
     }
@@ -89,7 +104,8 @@ void MainWindowDelegate::RefreshTripSummary() {
     if (outlets_.txtTripSummary == nullptr) return;
     const int64_t row = selectedRow() >= 0 ? selectedRow() : curIndex;
     const auto trip = row >= 0 ? tripIndex_.tripOfRow(static_cast<std::size_t>(row)) : std::nullopt;
-    const QString text = trip ? qText(tripSummaryText(tripIndex_.trips()[*trip], *trip + 1, tripIndex_.trips().size()))
+    const QString text = trip ? qText(tripSummaryText(tripIndex_.trips()[*trip], *trip + 1, tripIndex_.trips().size(),
+                                                      translatedTripPhrases()))
                               : QString();
     outlets_.txtTripSummary->setText(text);
     outlets_.txtTripSummary->setAccessibleName(text);
@@ -106,10 +122,11 @@ std::optional<int64_t> MainWindowDelegate::continuationOf(int64_t row) const {
 void MainWindowDelegate::showClipProblem(int64_t row) {
     const std::filesystem::path& file = playlistURL(row);
     std::error_code error;
-    const QString problem = std::filesystem::exists(file, error) ? QStringLiteral("Not a movie any more")
-                                                                 : QStringLiteral("File not found");
-    clipProblems_[file] = problem;
-    if (outlets_.player != nullptr) outlets_.player->showMessage(problem, QFile::decodeName(file.c_str()));
+    // Kept untranslated, and said in the language of the moment wherever it shows.
+    const char* problem = std::filesystem::exists(file, error) ? QT_TR_NOOP("Not a movie any more")
+                                                               : QT_TR_NOOP("File not found");
+    clipProblems_[file] = QString::fromUtf8(problem);
+    if (outlets_.player != nullptr) outlets_.player->showMessage(tr(problem), QFile::decodeName(file.c_str()));
     // What was read of it before still places it in its trip, so that the trip goes on past it.
     refreshTrips();
 }
@@ -173,7 +190,7 @@ void MainWindowDelegate::setupTimeline() {
 QString MainWindowDelegate::timelineHoverText(double seconds) const {
     QString text = qText(durationText(seconds));
     const auto point = outlets_.timeline != nullptr ? outlets_.timeline->series().pointAt(seconds) : std::nullopt;
-    if (!point) return text + QStringLiteral(" · no GPS");
+    if (!point) return text + QStringLiteral(" · ") + tr("no GPS");
     text += QStringLiteral(" · %1 %2").arg(point->speed, 0, 'f', 1).arg(qText(settings_.SpeedUnitName()));
     // The route's points are in time order: the one on screen at this time.
     const auto after = std::upper_bound(routeAhead_.begin(), routeAhead_.end(), seconds,

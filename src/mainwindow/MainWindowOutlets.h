@@ -58,11 +58,12 @@ struct MainWindowOutlets {
     // The unit items carry their unit type as data: 1 KM/H, 0 MPH.
     QAction* unitKMH = nullptr;
     QAction* unitMPH = nullptr;
-    // No behaviour: shown disabled until they have some.
+    // The user interface's languages (LanguageMenu).
     QAction* languageChinese = nullptr;
     QAction* languageEnglish = nullptr;
     QAction* languageJananese = nullptr;
     QAction* languageVietnamese = nullptr;
+    // No behaviour: shown disabled until they have some.
     QAction* mapBaidu = nullptr;
     QAction* mapGoogle = nullptr;
     // Where the tiles come from; the checked one is in use.

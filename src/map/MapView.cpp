@@ -5,6 +5,7 @@
 #include "TileProvider.h"
 
 #include <QEasingCurve>
+#include <QEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -39,11 +40,15 @@ QWidget* makeDefaultMarker() {
     return dot;
 }
 
+void nameButton(QToolButton* button, const QString& name) {
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+}
+
 QToolButton* makeButton(QWidget* parent, const QString& text, const QString& name) {
     auto* button = new QToolButton(parent);
     button->setText(text);
-    button->setAccessibleName(name);
-    button->setToolTip(name);
+    nameButton(button, name);
     button->setFixedSize(26, 26);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
@@ -93,6 +98,16 @@ MapView::MapView(QWidget* parent)
         "QLabel { background: white; color: black; border: 1px solid #999; border-radius: 6px; padding: 3px 8px; }"));
     callout_->hide();
     placeButtons();
+}
+
+void MapView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Map"));
+        nameButton(zoomInButton_, tr("Zoom in"));
+        nameButton(zoomOutButton_, tr("Zoom out"));
+        nameButton(recenterButton_, tr("Centre on car"));
+    }
+    QWidget::changeEvent(event);
 }
 
 MapView::~MapView() = default;

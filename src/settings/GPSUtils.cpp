@@ -20,6 +20,7 @@ const std::string clockCorrectionKey = "ClockCorrection";
 const std::string videoRendererKey = "VideoRenderer";
 const std::string exportFormatKey = "ExportFormat";
 const std::string stampSnapshotsKey = "StampSnapshots";
+const std::string languageKey = "Language";
 
 // The factor between the two speed units everywhere in the program (km in a nautical mile).
 constexpr float kmhPerMPH = 1.852f;
@@ -141,3 +142,6 @@ void GPSUtils::setExportFormat(const std::string& format) { settings_.setStringV
 bool GPSUtils::stampSnapshots() const { return settings_.unsignedValue(stampSnapshotsKey).value_or(0) != 0; }
 
 void GPSUtils::setStampSnapshots(bool on) { settings_.setUnsignedValue(stampSnapshotsKey, on ? 1 : 0); }
+std::optional<std::string> GPSUtils::language() const { return settings_.stringValue(languageKey); }
+
+void GPSUtils::setLanguage(const std::string& language) { settings_.setStringValue(languageKey, language); }

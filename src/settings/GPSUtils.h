@@ -55,6 +55,9 @@ public:
     // the user ticks it in the save dialog.
     bool stampSnapshots() const;
     void setStampSnapshots(bool on);
+    // The user interface's language: "en", "zh_CN", "ja" or "vi"; absent until the user chooses.
+    std::optional<std::string> language() const;
+    void setLanguage(const std::string& language);
     // Waits until every change is on disk (or its write failed): at quit, and in tests. The
     // shared instance also flushes when the program exits.
     bool flush() { return settings_.flush(); }

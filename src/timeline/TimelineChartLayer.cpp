@@ -5,6 +5,7 @@
 #include "TimelineLayout.h"
 #include "TimelineText.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -110,7 +111,8 @@ void paintBackground(QPainter& painter, const TimelineSeries& series, QSize size
     if (series.empty() && series.totalSeconds > 0) {
         painter.setFont(labelFont());
         painter.setPen(TimelineColours::quietLabel());
-        painter.drawText(QRectF(left, 0, right - left, baseline - 2), Qt::AlignCenter, QStringLiteral("No GPS"));
+        painter.drawText(QRectF(left, 0, right - left, baseline - 2), Qt::AlignCenter,
+                         QCoreApplication::translate("TimelineView", "No GPS"));
     }
 }
 

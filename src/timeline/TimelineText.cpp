@@ -1,5 +1,7 @@
 #include "TimelineText.h"
 
+#include "Phrase.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -24,9 +26,9 @@ std::string speedText(float speed, std::string_view unitName) {
     return text;
 }
 
-std::string seriesSummary(const TimelineSeries& series, std::string_view unitName) {
+std::string seriesSummary(const TimelineSeries& series, std::string_view unitName, const SeriesPhrases& phrases) {
     const std::string length = clockText(series.totalSeconds);
-    if (!series.highest) return "No speed recorded over " + length;
-    return "Speed over " + length + ", highest " + speedText(series.highest->speed, unitName) + " at " +
-           clockText(series.highest->seconds);
+    if (!series.highest) return fillPhrase(phrases.noSpeed, {length});
+    return fillPhrase(phrases.highest,
+                      {length, speedText(series.highest->speed, unitName), clockText(series.highest->seconds)});
 }

@@ -6,6 +6,7 @@
 #include "TimelineText.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -49,7 +50,7 @@ TimelineView::TimelineView(QWidget* parent) : QWidget(parent) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(QStringLiteral("Timeline"));
+    setAccessibleName(tr("Timeline"));
     describe();
 }
 
@@ -105,7 +106,7 @@ QString TimelineView::hoverText(double seconds) const {
     if (hoverTextProvider_) return hoverTextProvider_(seconds);
     const std::optional<TimelinePoint> point = series_.pointAt(seconds);
     const QString speed =
-        point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString())) : QStringLiteral("no GPS");
+        point ? QString::fromStdString(speedText(point->speed, unitName_.toStdString())) : tr("no GPS");
     return QString::fromStdString(clockText(seconds)) + QStringLiteral("  ") + speed;
 }
 
@@ -237,13 +238,26 @@ QRect TimelineView::cursorStrip(double fromX, double toX) const {
 }
 
 void TimelineView::describe() {
-    std::string text = seriesSummary(series_, unitName_.toStdString());
+    const SeriesPhrases phrases{
+        .noSpeed = tr("No speed recorded over %1").toStdString(),
+        .highest = tr("Speed over %1, highest %2 at %3").toStdString(),
+    };
+    QString text = QString::fromStdString(seriesSummary(series_, unitName_.toStdString(), phrases));
+    const auto clock = [](double seconds) { return QString::fromStdString(clockText(seconds)); };
     if (markStart_ && markEnd_)
-        text += "; marked " + clockText(std::min(*markStart_, *markEnd_)) + " to " +
-                clockText(std::max(*markStart_, *markEnd_));
+        text += tr("; marked %1 to %2").arg(clock(std::min(*markStart_, *markEnd_)), clock(std::max(*markStart_, *markEnd_)));
     else if (markStart_)
-        text += "; marked from " + clockText(*markStart_);
+        text += tr("; marked from %1").arg(clock(*markStart_));
     else if (markEnd_)
-        text += "; marked up to " + clockText(*markEnd_);
-    setAccessibleDescription(QString::fromStdString(text));
+        text += tr("; marked up to %1").arg(clock(*markEnd_));
+    setAccessibleDescription(text);
+}
+
+void TimelineView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Timeline"));
+        describe();
+        QWidget::update();
+    }
+    QWidget::changeEvent(event);
 }

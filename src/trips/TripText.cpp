@@ -1,5 +1,7 @@
 #include "TripText.h"
 
+#include "Phrase.h"
+
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -44,11 +46,16 @@ std::string tripHeadingText(const TripInfo& trip) {
     return durationText(trip.durationSeconds) + " · " + distanceText(trip.distanceMetres);
 }
 
-std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount) {
-    std::string text = "Trip " + std::to_string(number) + " of " + std::to_string(tripCount);
-    if (!trip.known) return text;
-    text += ": " + std::to_string(trip.span.count) + (trip.span.count == 1 ? " clip" : " clips");
+std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount,
+                            const TripPhrases& phrases) {
+    const std::string numberText = std::to_string(number);
+    const std::string countText = std::to_string(tripCount);
+    if (!trip.known) return fillPhrase(phrases.unknownTrip, {numberText, countText});
+    const std::string clips =
+        fillPhrase(trip.span.count == 1 ? phrases.oneClip : phrases.clips, {std::to_string(trip.span.count)});
+    const std::string length = durationText(trip.durationSeconds);
+    const std::string distance = distanceText(trip.distanceMetres);
     if (const auto start = trip.startSampleSeconds ? trip.startSampleSeconds : trip.startCreationSeconds)
-        text += ", from " + clockText(*start);
-    return text + ", " + durationText(trip.durationSeconds) + ", " + distanceText(trip.distanceMetres);
+        return fillPhrase(phrases.tripFrom, {numberText, countText, clips, clockText(*start), length, distance});
+    return fillPhrase(phrases.tripWithoutStart, {numberText, countText, clips, length, distance});
 }

@@ -16,5 +16,19 @@ std::string distanceText(double metres);
 std::string clockText(int64_t seconds);
 // The label on a trip's first row: its length and distance; "…" while not known.
 std::string tripHeadingText(const TripInfo& trip);
+// The words of a trip's sentence, with numbered places (see fillPhrase); English unless the
+// user interface fills them in its own language.
+struct TripPhrases {
+    // %1 the trip's number, %2 the number of trips.
+    std::string unknownTrip = "Trip %1 of %2";
+    // Then %3 the clips, %4 the start, %5 the length, %6 the distance.
+    std::string tripFrom = "Trip %1 of %2: %3, from %4, %5, %6";
+    // A trip whose start is not known: %3 the clips, %4 the length, %5 the distance.
+    std::string tripWithoutStart = "Trip %1 of %2: %3, %4, %5";
+    // %1 the number of clips.
+    std::string oneClip = "%1 clip";
+    std::string clips = "%1 clips";
+};
 // "Trip 2 of 5: 4 clips, from 2024-05-07 14:03, 12:40, 8.4 km"; an unknown trip says only which it is.
-std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount);
+std::string tripSummaryText(const TripInfo& trip, std::size_t number, std::size_t tripCount,
+                            const TripPhrases& phrases = {});

@@ -111,6 +111,18 @@ TEST_F(GPSInfoPanelTest, MissingAndVanishedLabelsAreSkipped) {
     EXPECT_EQ(text("txtTime"), "00:00:00");
 }
 
+TEST_F(GPSInfoPanelTest, AWordTheLEDFaceCannotSpellWholeIsInThePlainFace) {
+    LEDFontManager::Register();
+    labels_["lblLatitude"]->setText(QStringLiteral("VĨ ĐỘ"));
+    labels_["lblLongitude"]->setText(QStringLiteral("LON"));
+    labels_["lblDate"]->setText(QStringLiteral("日付"));
+    GPSInfoPanel(outlets_, settings()).setupFonts();
+    EXPECT_NE(QFontInfo(labels_["lblLatitude"]->font()).family(), QStringLiteral("DigifaceWide"));
+    EXPECT_EQ(labels_["lblLatitude"]->font().pointSizeF(), 22);
+    EXPECT_NE(QFontInfo(labels_["lblDate"]->font()).family(), QStringLiteral("DigifaceWide"));
+    EXPECT_EQ(QFontInfo(labels_["lblLongitude"]->font()).family(), QStringLiteral("DigifaceWide"));
+}
+
 // Pixels that differ from the top-left corner's colour, the background.
 int inkedPixels(const QImage& image) {
     const QRgb background = image.pixel(0, 0);

@@ -4,6 +4,7 @@
 
 #include "GPSUtils.h"
 
+#include <QEvent>
 #include <QGraphicsOpacityEffect>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -43,6 +44,14 @@ AboutView::AboutView(GPSUtils& utils, QWidget* parent)
 }
 
 AboutView::~AboutView() = default;
+
+void AboutView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        ui_->txtVersion->setText(tr("Version %1").arg(QStringLiteral(DASHTRACK_VERSION)));
+    }
+    QWidget::changeEvent(event);
+}
 
 QPushButton& AboutView::closeButton() { return *ui_->btnClose; }
 

@@ -1,5 +1,6 @@
 #include "TitleBarButton.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -7,10 +8,20 @@ namespace {
 
 QString accessibleNameOf(TitleBarButton::Glyph glyph) {
     switch (glyph) {
-    case TitleBarButton::Glyph::Close: return QStringLiteral("Close window");
-    case TitleBarButton::Glyph::Minimise: return QStringLiteral("Minimise window");
-    case TitleBarButton::Glyph::Maximise: return QStringLiteral("Maximise window");
-    case TitleBarButton::Glyph::Restore: return QStringLiteral("Restore window");
+    case TitleBarButton::Glyph::Close: return TitleBarButton::tr("Close window");
+    case TitleBarButton::Glyph::Minimise: return TitleBarButton::tr("Minimise window");
+    case TitleBarButton::Glyph::Maximise: return TitleBarButton::tr("Maximise window");
+    case TitleBarButton::Glyph::Restore: return TitleBarButton::tr("Restore window");
+    }
+    return {};
+}
+
+QString toolTipOf(TitleBarButton::Glyph glyph) {
+    switch (glyph) {
+    case TitleBarButton::Glyph::Close: return TitleBarButton::tr("Close");
+    case TitleBarButton::Glyph::Minimise: return TitleBarButton::tr("Minimise");
+    case TitleBarButton::Glyph::Maximise: return TitleBarButton::tr("Maximise");
+    case TitleBarButton::Glyph::Restore: return TitleBarButton::tr("Restore");
     }
     return {};
 }
@@ -19,15 +30,23 @@ QString accessibleNameOf(TitleBarButton::Glyph glyph) {
 
 TitleBarButton::TitleBarButton(Glyph glyph, QWidget* parent) : QAbstractButton(parent), glyph_(glyph) {
     setFocusPolicy(Qt::NoFocus);
-    setAccessibleName(accessibleNameOf(glyph));
-    setToolTip(accessibleNameOf(glyph).section(QLatin1Char(' '), 0, 0));
+    nameGlyph();
+}
+
+void TitleBarButton::nameGlyph() {
+    setAccessibleName(accessibleNameOf(glyph_));
+    setToolTip(toolTipOf(glyph_));
+}
+
+void TitleBarButton::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) nameGlyph();
+    QAbstractButton::changeEvent(event);
 }
 
 void TitleBarButton::setGlyph(Glyph glyph) {
     if (glyph_ == glyph) return;
     glyph_ = glyph;
-    setAccessibleName(accessibleNameOf(glyph));
-    setToolTip(accessibleNameOf(glyph).section(QLatin1Char(' '), 0, 0));
+    nameGlyph();
     QWidget::update();
 }
 

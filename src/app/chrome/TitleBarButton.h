@@ -21,8 +21,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    // The accessible name and tooltip of the glyph, in the interface's language.
+    void nameGlyph();
+
     Glyph glyph_;
     bool hovered_ = false;
 };

@@ -20,13 +20,13 @@ WindowTitleBar::WindowTitleBar(QWidget& window)
       maximise_(new TitleBarButton(TitleBarButton::Glyph::Maximise, this)),
       close_(new TitleBarButton(TitleBarButton::Glyph::Close, this)) {
     setObjectName(QStringLiteral("titleBar"));
-    setAccessibleName(QStringLiteral("Title bar"));
+    setAccessibleName(tr("Title bar"));
     setFixedHeight(kHeight);
 
     QFont font = QApplication::font();
     font.setPointSizeF(12);
     title_->setObjectName(QStringLiteral("windowTitle"));
-    title_->setAccessibleDescription(QStringLiteral("Window title"));
+    title_->setAccessibleDescription(tr("Window title"));
     title_->setFont(font);
     title_->setTextFormat(Qt::PlainText);
     title_->setAlignment(Qt::AlignCenter);
@@ -57,6 +57,14 @@ WindowTitleBar::WindowTitleBar(QWidget& window)
     window.installEventFilter(this);
     placeOnWindow();
     followWindowState();
+}
+
+void WindowTitleBar::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(tr("Title bar"));
+        title_->setAccessibleDescription(tr("Window title"));
+    }
+    QWidget::changeEvent(event);
 }
 
 bool WindowTitleBar::eventFilter(QObject* watched, QEvent* event) {

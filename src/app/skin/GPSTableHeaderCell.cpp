@@ -38,6 +38,11 @@ int GPSTableHeaderCell::preferredHeight() {
     return std::max(kMinimumHeight, QFontMetrics(titleFont()).height() + 2 * kTitleDrop + 4);
 }
 
+int GPSTableHeaderCell::preferredWidth(const QString& title) {
+    constexpr int kMargin = 6;
+    return QFontMetrics(titleFont()).horizontalAdvance(title) + 2 * kMargin + 2;
+}
+
 void GPSTableHeaderCell::paint(QPainter& painter, const QRect& frame, bool leftmost) const {
     painter.save();
     painter.fillRect(frame, SkinColours::headerLine());

@@ -22,6 +22,8 @@ public:
     static QFont titleFont();
     // Room for the title, its 2-pixel drop and the lines.
     static int preferredHeight();
+    // Room for the whole title in the title font, with a margin each side and the lines.
+    static int preferredWidth(const QString& title);
 
 private:
     QString title_;

@@ -3,16 +3,24 @@
 #include "GPSTableHeaderCell.h"
 #include "SkinColours.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QTableView>
 
+#include <algorithm>
+
 GPSTableHeaderView::GPSTableHeaderView(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
-    setAccessibleName(QStringLiteral("Columns"));
+    setAccessibleName(tr("Columns"));
     // The strip past the last section matches the sections.
     QPalette colours = palette();
     colours.setColor(QPalette::Button, SkinColours::headerBackground());
     colours.setColor(QPalette::ButtonText, SkinColours::headerText());
     setPalette(colours);
+}
+
+void GPSTableHeaderView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) setAccessibleName(tr("Columns"));
+    QHeaderView::changeEvent(event);
 }
 
 QSize GPSTableHeaderView::sizeHint() const {
@@ -39,6 +47,13 @@ void GPSTableHeaderView::paintSection(QPainter* painter, const QRect& rect, int 
     if (painter == nullptr || !rect.isValid()) return;
     const QString title = model() != nullptr ? model()->headerData(logicalIndex, orientation()).toString() : QString();
     GPSTableHeaderCell(title).paint(*painter, rect, isLeftmost(logicalIndex));
+}
+
+QSize GPSTableHeaderView::sectionSizeFromContents(int logicalIndex) const {
+    QSize size = QHeaderView::sectionSizeFromContents(logicalIndex);
+    const QString title = model() != nullptr ? model()->headerData(logicalIndex, orientation()).toString() : QString();
+    size.setWidth(std::max(size.width(), GPSTableHeaderCell::preferredWidth(title)));
+    return size;
 }
 
 bool GPSTableHeaderView::isLeftmost(int logicalIndex) const {

@@ -20,6 +20,9 @@ public:
 
 protected:
     void paintSection(QPainter* painter, const QRect& rect, int logicalIndex) const override;
+    void changeEvent(QEvent* event) override;
+    // Measured in the title font the sections are painted with, so that a title fits whole.
+    QSize sectionSizeFromContents(int logicalIndex) const override;
 
 private:
     bool isLeftmost(int logicalIndex) const;

@@ -25,6 +25,8 @@ void PlaylistTableModel::reloadData() {
     endResetModel();
 }
 
+void PlaylistTableModel::retranslate() { emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1); }
+
 void PlaylistTableModel::setRowDecorations(std::vector<RowDecoration> decorations) {
     decorations_ = std::move(decorations);
     if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
@@ -105,9 +107,9 @@ QVariant PlaylistTableModel::headerData(int section, Qt::Orientation orientation
     switch (role) {
         case Qt::DisplayRole:
             switch (section) {
-                case FileColumn: return QStringLiteral("File");
-                case DateTimeColumn: return QStringLiteral("Date & Time");
-                case SizeColumn: return QStringLiteral("Size");
+                case FileColumn: return tr("File");
+                case DateTimeColumn: return tr("Date & Time");
+                case SizeColumn: return tr("Size");
                 default: return {};
             }
         case Qt::UserRole: return columnIdentifier(section).isEmpty() ? QVariant() : columnIdentifier(section);

@@ -34,6 +34,8 @@ public:
 
     // The playlist changed: every view drops its rows and asks again.
     void reloadData();
+    // The column titles in the interface's new language.
+    void retranslate();
     // One per playlist row (missing ones count as plain rows); the views repaint, keeping their
     // selection.
     void setRowDecorations(std::vector<RowDecoration> decorations);
