@@ -16,4 +16,8 @@ GPSTrack exportTrackOf(const ClipRecord& record) {
     return track;
 }
 
-GPSTrack readClipForExport(const std::filesystem::path& file) { return exportTrackOf(ClipCatalog::readClip(file)); }
+GPSTrack readClipForExport(const std::filesystem::path& file, int clockCorrectionMinutes) {
+    ClipRecord record = ClipCatalog::readClip(file);
+    ClipCatalog::correctClock(record, clockCorrectionMinutes);
+    return exportTrackOf(record);
+}

@@ -11,5 +11,6 @@
 GPSTrack exportTrackOf(const ClipRecord& record);
 
 // The one way the window's exports read a clip that the catalog has not read yet; it reads as
-// the catalog does, so the export shows the clip as the window does.
-GPSTrack readClipForExport(const std::filesystem::path& file);
+// the catalog does, clock correction (minutes) included, so the export shows the clip as the
+// window does.
+GPSTrack readClipForExport(const std::filesystem::path& file, int clockCorrectionMinutes = 0);

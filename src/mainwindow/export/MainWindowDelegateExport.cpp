@@ -41,10 +41,10 @@ bool mayHaveTrack(const ClipCatalog* catalog, const std::filesystem::path& file)
 
 // The clip as the export will gather it: from the catalog's record where the window has read it,
 // else from the disk on the worker.
-ExportClip exportClip(const ClipCatalog* catalog, const std::filesystem::path& file) {
+ExportClip exportClip(const ClipCatalog* catalog, const std::filesystem::path& file, int clockCorrectionMinutes) {
     const ClipRecord* record = catalog != nullptr ? catalog->find(file) : nullptr;
     if (record != nullptr) return {file.string(), [record = *record] { return exportTrackOf(record); }};
-    return {file.string(), [file] { return readClipForExport(file); }};
+    return {file.string(), [file, clockCorrectionMinutes] { return readClipForExport(file, clockCorrectionMinutes); }};
 }
 
 // "Trip 2, from 2024-05-07 14:03": what mapping tools list the track as.
@@ -150,7 +150,7 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
     for (const TripSpan& span : spans) {
         ExportTrack track{tripName(tripIndex_, span.first), {}};
         for (std::size_t row = span.first; row < span.first + span.count; ++row)
-            track.clips.push_back(exportClip(clipCatalog_, playlist.at(row).URL()));
+            track.clips.push_back(exportClip(clipCatalog_, playlist.at(row).URL(), settings_.clockCorrectionMinutes()));
         request.tracks.push_back(std::move(track));
     }
     auto job = std::make_shared<const TrackExportJob>(std::move(request));
