@@ -66,6 +66,29 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
     </message>
 </context>
 <context>
+    <name>ExportTrack</name>
+    <message>
+        <source>Export Track</source>
+        <translation>走行軌跡のエクスポート</translation>
+    </message>
+    <message>
+        <source>Exporting the track to %1…</source>
+        <translation>走行軌跡を %1 にエクスポートしています…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Export progress</source>
+        <translation>エクスポートの進行状況</translation>
+    </message>
+    <message>
+        <source>The track could not be written to %1: %2.</source>
+        <translation>走行軌跡を %1 に書き込めませんでした：%2。</translation>
+    </message>
+</context>
+<context>
     <name>GPSControlView</name>
     <message>
         <source>Player controls</source>
@@ -469,6 +492,38 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
         <source>&amp;About Dashtrack</source>
         <translation>Dashtrack について(&amp;A)</translation>
     </message>
+    <message>
+        <source>&amp;Export Track</source>
+        <translation>走行軌跡をエクスポート(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Loaded &amp;Clip…</source>
+        <translation>開いているクリップ(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Selected &amp;Trip…</source>
+        <translation>選択中のトリップ(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Whole &amp;Playlist…</source>
+        <translation>プレイリスト全体(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Save Se&amp;gment…</source>
+        <translation>区間を保存(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Mark &amp;Start	I</source>
+        <translation>開始点を設定(&amp;S)	I</translation>
+    </message>
+    <message>
+        <source>Mark &amp;End	O</source>
+        <translation>終了点を設定(&amp;E)	O</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Marks</source>
+        <translation>開始点・終了点を解除(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowDelegate</name>
@@ -516,10 +571,6 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
         <source>no GPS</source>
         <translation>GPS なし</translation>
     </message>
-    <message>
-        <source>PNG images (%1)</source>
-        <translation>PNG 画像 (%1)</translation>
-    </message>
 </context>
 <context>
     <name>MapView</name>
@@ -556,10 +607,263 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
     </message>
 </context>
 <context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>環境設定</translation>
+    </message>
+    <message>
+        <source>Read-outs</source>
+        <translation>計器表示</translation>
+    </message>
+    <message>
+        <source>Speed unit:</source>
+        <translation>速度の単位：</translation>
+    </message>
+    <message>
+        <source>Kilometres per hour</source>
+        <translation>キロメートル毎時</translation>
+    </message>
+    <message>
+        <source>Miles per hour</source>
+        <translation>マイル毎時</translation>
+    </message>
+    <message>
+        <source>Clock correction:</source>
+        <translation>時刻の補正：</translation>
+    </message>
+    <message>
+        <source>Clock correction</source>
+        <translation>時刻の補正</translation>
+    </message>
+    <message>
+        <source>Hours and minutes added to the times the camera recorded, from -23:59 to +23:59</source>
+        <translation>カメラが記録した時刻に加える時間と分（-23:59～+23:59）</translation>
+    </message>
+    <message>
+        <source>Clock correction problem</source>
+        <translation>時刻の補正の問題</translation>
+    </message>
+    <message>
+        <source>Added to the camera&apos;s dates and times, for a camera set to the wrong zone.</source>
+        <translation>カメラのタイムゾーン設定が誤っているとき、記録された日付と時刻に加えます。</translation>
+    </message>
+    <message>
+        <source>About the clock correction</source>
+        <translation>時刻の補正について</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地図</translation>
+    </message>
+    <message>
+        <source>Tile source:</source>
+        <translation>タイルの取得元：</translation>
+    </message>
+    <message>
+        <source>Tile source</source>
+        <translation>タイルの取得元</translation>
+    </message>
+    <message>
+        <source>MBTiles File…</source>
+        <translation>MBTiles ファイル…</translation>
+    </message>
+    <message>
+        <source>Tile Folder…</source>
+        <translation>タイルフォルダー…</translation>
+    </message>
+    <message>
+        <source>Custom URL</source>
+        <translation>カスタム URL</translation>
+    </message>
+    <message>
+        <source>Work Offline</source>
+        <translation>オフラインで作業</translation>
+    </message>
+    <message>
+        <source>Tile file or folder in use</source>
+        <translation>使用中のタイルファイルまたはフォルダー</translation>
+    </message>
+    <message>
+        <source>Custom URL:</source>
+        <translation>カスタム URL：</translation>
+    </message>
+    <message>
+        <source>Custom tile URL</source>
+        <translation>カスタムタイル URL</translation>
+    </message>
+    <message>
+        <source>An http or https address with {z}, {x} and {y} where the tile&apos;s numbers go</source>
+        <translation>タイル番号の位置に {z}、{x}、{y} を置いた http または https のアドレス</translation>
+    </message>
+    <message>
+        <source>Custom tile URL problem</source>
+        <translation>カスタムタイル URL の問題</translation>
+    </message>
+    <message>
+        <source>Tile cache:</source>
+        <translation>タイルキャッシュ：</translation>
+    </message>
+    <message>
+        <source>Tile cache size</source>
+        <translation>タイルキャッシュのサイズ</translation>
+    </message>
+    <message>
+        <source>Megabytes of downloaded tiles kept on the disk, from 10 to 2000</source>
+        <translation>ディスクに残すダウンロード済みタイルの容量（MB、10～2000）</translation>
+    </message>
+    <message>
+        <source>Clear Cache</source>
+        <translation>キャッシュを消去</translation>
+    </message>
+    <message>
+        <source>Clear tile cache</source>
+        <translation>タイルキャッシュを消去</translation>
+    </message>
+    <message>
+        <source>Tile cache problem</source>
+        <translation>タイルキャッシュの問題</translation>
+    </message>
+    <message>
+        <source>Tile cache status</source>
+        <translation>タイルキャッシュの状態</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>Play clips continuously</source>
+        <translation>クリップを連続再生</translation>
+    </message>
+    <message>
+        <source>Video renderer:</source>
+        <translation>ビデオレンダラー：</translation>
+    </message>
+    <message>
+        <source>Video renderer</source>
+        <translation>ビデオレンダラー</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ソフトウェア</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start.</source>
+        <translation>次回の起動時に反映されます。</translation>
+    </message>
+    <message>
+        <source>About the video renderer</source>
+        <translation>ビデオレンダラーについて</translation>
+    </message>
+    <message>
+        <source>Dialog buttons</source>
+        <translation>ダイアログのボタン</translation>
+    </message>
+    <message>
+        <source>DASHTRACK_VIDEO_RENDERER overrides this.</source>
+        <translation>DASHTRACK_VIDEO_RENDERER の設定が優先されます。</translation>
+    </message>
+    <message>
+        <source>Clearing…</source>
+        <translation>消去しています…</translation>
+    </message>
+    <message>
+        <source>Enter the address of the tile server.</source>
+        <translation>タイルサーバーのアドレスを入力してください。</translation>
+    </message>
+    <message>
+        <source>The address must start with http:// or https://.</source>
+        <translation>アドレスは http:// か https:// で始めてください。</translation>
+    </message>
+    <message>
+        <source>The address needs {z}, {x} and {y}.</source>
+        <translation>アドレスには {z}、{x}、{y} が必要です。</translation>
+    </message>
+    <message>
+        <source>This is not a valid address.</source>
+        <translation>有効なアドレスではありません。</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 MB.</source>
+        <translation>%1～%2 MB の範囲で指定してください。</translation>
+    </message>
+    <message>
+        <source>Use ±HH:MM, from -23:59 to +23:59.</source>
+        <translation>±HH:MM の形式で、-23:59～+23:59 の範囲で入力してください。</translation>
+    </message>
+    <message>
+        <source>Cache cleared.</source>
+        <translation>キャッシュを消去しました。</translation>
+    </message>
+    <message>
+        <source>Some files could not be removed.</source>
+        <translation>一部のファイルを削除できませんでした。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>RouteTracker</name>
     <message>
         <source>Car</source>
         <translation>車</translation>
+    </message>
+</context>
+<context>
+    <name>SaveSegment</name>
+    <message>
+        <source>Save Segment</source>
+        <translation>区間を保存</translation>
+    </message>
+    <message>
+        <source>MPEG-4 movie (*.mp4)</source>
+        <translation>MPEG-4 動画 (*.mp4)</translation>
+    </message>
+    <message>
+        <source>QuickTime movie (*.mov)</source>
+        <translation>QuickTime 動画 (*.mov)</translation>
+    </message>
+    <message>
+        <source>Saving the segment…</source>
+        <translation>区間を保存しています…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Saving the segment</source>
+        <translation>区間を保存中</translation>
+    </message>
+    <message>
+        <source>The segment was not saved.</source>
+        <translation>区間を保存できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotSaveDialog</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>スナップショットを保存</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG 画像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Stamp speed, place and time</source>
+        <translation>速度・位置・日時を写し込む</translation>
+    </message>
+    <message>
+        <source>Draws the speed, latitude, longitude, date and time across the bottom of the saved picture</source>
+        <translation>保存する画像の下部に速度、緯度、経度、日付、時刻を写し込みます</translation>
     </message>
 </context>
 <context>
@@ -583,6 +887,18 @@ DSEG を元にした LED フォント：SIL Open Font License 1.1
     <message>
         <source>Speed over %1, highest %2 at %3</source>
         <translation>%1 間の速度、最高は %3 の %2</translation>
+    </message>
+    <message>
+        <source>; marked %1 to %2</source>
+        <translation>、区間 %1～%2 を指定</translation>
+    </message>
+    <message>
+        <source>; marked from %1</source>
+        <translation>、区間の開始点 %1</translation>
+    </message>
+    <message>
+        <source>; marked up to %1</source>
+        <translation>、区間の終了点 %1</translation>
     </message>
 </context>
 <context>

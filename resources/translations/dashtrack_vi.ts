@@ -66,6 +66,29 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
     </message>
 </context>
 <context>
+    <name>ExportTrack</name>
+    <message>
+        <source>Export Track</source>
+        <translation>Xuất lộ trình</translation>
+    </message>
+    <message>
+        <source>Exporting the track to %1…</source>
+        <translation>Đang xuất lộ trình ra %1…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>Export progress</source>
+        <translation>Tiến trình xuất</translation>
+    </message>
+    <message>
+        <source>The track could not be written to %1: %2.</source>
+        <translation>Không ghi được lộ trình vào %1: %2.</translation>
+    </message>
+</context>
+<context>
     <name>GPSControlView</name>
     <message>
         <source>Player controls</source>
@@ -469,6 +492,38 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
         <source>&amp;About Dashtrack</source>
         <translation>&amp;Giới thiệu Dashtrack</translation>
     </message>
+    <message>
+        <source>&amp;Export Track</source>
+        <translation>X&amp;uất lộ trình</translation>
+    </message>
+    <message>
+        <source>Loaded &amp;Clip…</source>
+        <translation>Đoạn &amp;phim đang mở…</translation>
+    </message>
+    <message>
+        <source>Selected &amp;Trip…</source>
+        <translation>&amp;Chuyến đi đã chọn…</translation>
+    </message>
+    <message>
+        <source>Whole &amp;Playlist…</source>
+        <translation>&amp;Toàn bộ danh sách phát…</translation>
+    </message>
+    <message>
+        <source>Save Se&amp;gment…</source>
+        <translation>Lưu &amp;phân đoạn…</translation>
+    </message>
+    <message>
+        <source>Mark &amp;Start	I</source>
+        <translation>Đánh dấu điểm đầ&amp;u	I</translation>
+    </message>
+    <message>
+        <source>Mark &amp;End	O</source>
+        <translation>Đánh dấu điểm &amp;cuối	O</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Marks</source>
+        <translation>&amp;Xóa các điểm đánh dấu</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowDelegate</name>
@@ -516,10 +571,6 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
         <source>no GPS</source>
         <translation>không có GPS</translation>
     </message>
-    <message>
-        <source>PNG images (%1)</source>
-        <translation>Ảnh PNG (%1)</translation>
-    </message>
 </context>
 <context>
     <name>MapView</name>
@@ -556,10 +607,263 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
     </message>
 </context>
 <context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Tùy chọn</translation>
+    </message>
+    <message>
+        <source>Read-outs</source>
+        <translation>Số liệu hiển thị</translation>
+    </message>
+    <message>
+        <source>Speed unit:</source>
+        <translation>Đơn vị tốc độ:</translation>
+    </message>
+    <message>
+        <source>Kilometres per hour</source>
+        <translation>Ki-lô-mét mỗi giờ</translation>
+    </message>
+    <message>
+        <source>Miles per hour</source>
+        <translation>Dặm mỗi giờ</translation>
+    </message>
+    <message>
+        <source>Clock correction:</source>
+        <translation>Hiệu chỉnh đồng hồ:</translation>
+    </message>
+    <message>
+        <source>Clock correction</source>
+        <translation>Hiệu chỉnh đồng hồ</translation>
+    </message>
+    <message>
+        <source>Hours and minutes added to the times the camera recorded, from -23:59 to +23:59</source>
+        <translation>Số giờ và phút cộng vào thời gian máy quay đã ghi, từ -23:59 đến +23:59</translation>
+    </message>
+    <message>
+        <source>Clock correction problem</source>
+        <translation>Lỗi hiệu chỉnh đồng hồ</translation>
+    </message>
+    <message>
+        <source>Added to the camera&apos;s dates and times, for a camera set to the wrong zone.</source>
+        <translation>Cộng vào ngày giờ của máy quay, dành cho máy quay đặt sai múi giờ.</translation>
+    </message>
+    <message>
+        <source>About the clock correction</source>
+        <translation>Về hiệu chỉnh đồng hồ</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Bản đồ</translation>
+    </message>
+    <message>
+        <source>Tile source:</source>
+        <translation>Nguồn ô bản đồ:</translation>
+    </message>
+    <message>
+        <source>Tile source</source>
+        <translation>Nguồn ô bản đồ</translation>
+    </message>
+    <message>
+        <source>MBTiles File…</source>
+        <translation>Tệp MBTiles…</translation>
+    </message>
+    <message>
+        <source>Tile Folder…</source>
+        <translation>Thư mục ô bản đồ…</translation>
+    </message>
+    <message>
+        <source>Custom URL</source>
+        <translation>URL tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>Work Offline</source>
+        <translation>Làm việc ngoại tuyến</translation>
+    </message>
+    <message>
+        <source>Tile file or folder in use</source>
+        <translation>Tệp hoặc thư mục ô bản đồ đang dùng</translation>
+    </message>
+    <message>
+        <source>Custom URL:</source>
+        <translation>URL tùy chỉnh:</translation>
+    </message>
+    <message>
+        <source>Custom tile URL</source>
+        <translation>URL ô bản đồ tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>An http or https address with {z}, {x} and {y} where the tile&apos;s numbers go</source>
+        <translation>Địa chỉ http hoặc https, có {z}, {x} và {y} ở chỗ số hiệu của ô bản đồ</translation>
+    </message>
+    <message>
+        <source>Custom tile URL problem</source>
+        <translation>Lỗi URL ô bản đồ tùy chỉnh</translation>
+    </message>
+    <message>
+        <source>Tile cache:</source>
+        <translation>Bộ nhớ đệm ô bản đồ:</translation>
+    </message>
+    <message>
+        <source>Tile cache size</source>
+        <translation>Dung lượng bộ nhớ đệm ô bản đồ</translation>
+    </message>
+    <message>
+        <source>Megabytes of downloaded tiles kept on the disk, from 10 to 2000</source>
+        <translation>Dung lượng ô bản đồ đã tải giữ lại trên đĩa, từ 10 đến 2000 MB</translation>
+    </message>
+    <message>
+        <source>Clear Cache</source>
+        <translation>Xóa bộ nhớ đệm</translation>
+    </message>
+    <message>
+        <source>Clear tile cache</source>
+        <translation>Xóa bộ nhớ đệm ô bản đồ</translation>
+    </message>
+    <message>
+        <source>Tile cache problem</source>
+        <translation>Lỗi bộ nhớ đệm ô bản đồ</translation>
+    </message>
+    <message>
+        <source>Tile cache status</source>
+        <translation>Trạng thái bộ nhớ đệm ô bản đồ</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>Phát lại</translation>
+    </message>
+    <message>
+        <source>Play clips continuously</source>
+        <translation>Phát liên tục các đoạn phim</translation>
+    </message>
+    <message>
+        <source>Video renderer:</source>
+        <translation>Trình kết xuất video:</translation>
+    </message>
+    <message>
+        <source>Video renderer</source>
+        <translation>Trình kết xuất video</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Tự động</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Phần mềm</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start.</source>
+        <translation>Có hiệu lực từ lần khởi động sau.</translation>
+    </message>
+    <message>
+        <source>About the video renderer</source>
+        <translation>Về trình kết xuất video</translation>
+    </message>
+    <message>
+        <source>Dialog buttons</source>
+        <translation>Các nút của hộp thoại</translation>
+    </message>
+    <message>
+        <source>DASHTRACK_VIDEO_RENDERER overrides this.</source>
+        <translation>DASHTRACK_VIDEO_RENDERER được ưu tiên hơn lựa chọn này.</translation>
+    </message>
+    <message>
+        <source>Clearing…</source>
+        <translation>Đang xóa…</translation>
+    </message>
+    <message>
+        <source>Enter the address of the tile server.</source>
+        <translation>Hãy nhập địa chỉ máy chủ ô bản đồ.</translation>
+    </message>
+    <message>
+        <source>The address must start with http:// or https://.</source>
+        <translation>Địa chỉ phải bắt đầu bằng http:// hoặc https://.</translation>
+    </message>
+    <message>
+        <source>The address needs {z}, {x} and {y}.</source>
+        <translation>Địa chỉ cần có {z}, {x} và {y}.</translation>
+    </message>
+    <message>
+        <source>This is not a valid address.</source>
+        <translation>Đây không phải là địa chỉ hợp lệ.</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 MB.</source>
+        <translation>Từ %1 đến %2 MB.</translation>
+    </message>
+    <message>
+        <source>Use ±HH:MM, from -23:59 to +23:59.</source>
+        <translation>Dùng dạng ±HH:MM, từ -23:59 đến +23:59.</translation>
+    </message>
+    <message>
+        <source>Cache cleared.</source>
+        <translation>Đã xóa bộ nhớ đệm.</translation>
+    </message>
+    <message>
+        <source>Some files could not be removed.</source>
+        <translation>Không xóa được một số tệp.</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Đóng</translation>
+    </message>
+</context>
+<context>
     <name>RouteTracker</name>
     <message>
         <source>Car</source>
         <translation>Xe</translation>
+    </message>
+</context>
+<context>
+    <name>SaveSegment</name>
+    <message>
+        <source>Save Segment</source>
+        <translation>Lưu phân đoạn</translation>
+    </message>
+    <message>
+        <source>MPEG-4 movie (*.mp4)</source>
+        <translation>Phim MPEG-4 (*.mp4)</translation>
+    </message>
+    <message>
+        <source>QuickTime movie (*.mov)</source>
+        <translation>Phim QuickTime (*.mov)</translation>
+    </message>
+    <message>
+        <source>Saving the segment…</source>
+        <translation>Đang lưu phân đoạn…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Hủy</translation>
+    </message>
+    <message>
+        <source>Saving the segment</source>
+        <translation>Đang lưu phân đoạn</translation>
+    </message>
+    <message>
+        <source>The segment was not saved.</source>
+        <translation>Không lưu được phân đoạn.</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotSaveDialog</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Lưu ảnh chụp</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>Ảnh PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Stamp speed, place and time</source>
+        <translation>Đóng dấu tốc độ, vị trí và thời gian lên ảnh</translation>
+    </message>
+    <message>
+        <source>Draws the speed, latitude, longitude, date and time across the bottom of the saved picture</source>
+        <translation>Ghi tốc độ, vĩ độ, kinh độ, ngày và giờ dọc theo phía dưới của ảnh được lưu</translation>
     </message>
 </context>
 <context>
@@ -583,6 +887,18 @@ Dữ liệu bản đồ © những người đóng góp OpenStreetMap, ODbL</tra
     <message>
         <source>Speed over %1, highest %2 at %3</source>
         <translation>Tốc độ trong %1, cao nhất %2 lúc %3</translation>
+    </message>
+    <message>
+        <source>; marked %1 to %2</source>
+        <translation>; đã đánh dấu từ %1 đến %2</translation>
+    </message>
+    <message>
+        <source>; marked from %1</source>
+        <translation>; đã đánh dấu điểm đầu %1</translation>
+    </message>
+    <message>
+        <source>; marked up to %1</source>
+        <translation>; đã đánh dấu điểm cuối %1</translation>
     </message>
 </context>
 <context>

@@ -66,6 +66,29 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
     </message>
 </context>
 <context>
+    <name>ExportTrack</name>
+    <message>
+        <source>Export Track</source>
+        <translation>导出轨迹</translation>
+    </message>
+    <message>
+        <source>Exporting the track to %1…</source>
+        <translation>正在将轨迹导出到 %1…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Export progress</source>
+        <translation>导出进度</translation>
+    </message>
+    <message>
+        <source>The track could not be written to %1: %2.</source>
+        <translation>无法将轨迹写入 %1：%2。</translation>
+    </message>
+</context>
+<context>
     <name>GPSControlView</name>
     <message>
         <source>Player controls</source>
@@ -469,6 +492,38 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
         <source>&amp;About Dashtrack</source>
         <translation>关于 Dashtrack(&amp;A)</translation>
     </message>
+    <message>
+        <source>&amp;Export Track</source>
+        <translation>导出轨迹(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Loaded &amp;Clip…</source>
+        <translation>当前片段(&amp;C)…</translation>
+    </message>
+    <message>
+        <source>Selected &amp;Trip…</source>
+        <translation>所选行程(&amp;T)…</translation>
+    </message>
+    <message>
+        <source>Whole &amp;Playlist…</source>
+        <translation>整个播放列表(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Save Se&amp;gment…</source>
+        <translation>保存选段(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Mark &amp;Start	I</source>
+        <translation>标记起点(&amp;S)	I</translation>
+    </message>
+    <message>
+        <source>Mark &amp;End	O</source>
+        <translation>标记终点(&amp;E)	O</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Marks</source>
+        <translation>清除标记(&amp;L)</translation>
+    </message>
 </context>
 <context>
     <name>MainWindowDelegate</name>
@@ -516,10 +571,6 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
         <source>no GPS</source>
         <translation>无 GPS</translation>
     </message>
-    <message>
-        <source>PNG images (%1)</source>
-        <translation>PNG 图像 (%1)</translation>
-    </message>
 </context>
 <context>
     <name>MapView</name>
@@ -556,10 +607,263 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
     </message>
 </context>
 <context>
+    <name>PreferencesDialog</name>
+    <message>
+        <source>Preferences</source>
+        <translation>首选项</translation>
+    </message>
+    <message>
+        <source>Read-outs</source>
+        <translation>读数</translation>
+    </message>
+    <message>
+        <source>Speed unit:</source>
+        <translation>速度单位：</translation>
+    </message>
+    <message>
+        <source>Kilometres per hour</source>
+        <translation>公里每小时</translation>
+    </message>
+    <message>
+        <source>Miles per hour</source>
+        <translation>英里每小时</translation>
+    </message>
+    <message>
+        <source>Clock correction:</source>
+        <translation>时钟校正：</translation>
+    </message>
+    <message>
+        <source>Clock correction</source>
+        <translation>时钟校正</translation>
+    </message>
+    <message>
+        <source>Hours and minutes added to the times the camera recorded, from -23:59 to +23:59</source>
+        <translation>加到摄像头所记录时间上的时和分，范围 -23:59 至 +23:59</translation>
+    </message>
+    <message>
+        <source>Clock correction problem</source>
+        <translation>时钟校正有误</translation>
+    </message>
+    <message>
+        <source>Added to the camera&apos;s dates and times, for a camera set to the wrong zone.</source>
+        <translation>加到摄像头记录的日期和时间上，用于时区设置有误的摄像头。</translation>
+    </message>
+    <message>
+        <source>About the clock correction</source>
+        <translation>关于时钟校正</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>Tile source:</source>
+        <translation>瓦片来源：</translation>
+    </message>
+    <message>
+        <source>Tile source</source>
+        <translation>瓦片来源</translation>
+    </message>
+    <message>
+        <source>MBTiles File…</source>
+        <translation>MBTiles 文件…</translation>
+    </message>
+    <message>
+        <source>Tile Folder…</source>
+        <translation>瓦片文件夹…</translation>
+    </message>
+    <message>
+        <source>Custom URL</source>
+        <translation>自定义 URL</translation>
+    </message>
+    <message>
+        <source>Work Offline</source>
+        <translation>离线工作</translation>
+    </message>
+    <message>
+        <source>Tile file or folder in use</source>
+        <translation>正在使用的瓦片文件或文件夹</translation>
+    </message>
+    <message>
+        <source>Custom URL:</source>
+        <translation>自定义 URL：</translation>
+    </message>
+    <message>
+        <source>Custom tile URL</source>
+        <translation>自定义瓦片 URL</translation>
+    </message>
+    <message>
+        <source>An http or https address with {z}, {x} and {y} where the tile&apos;s numbers go</source>
+        <translation>http 或 https 地址，在瓦片编号处写 {z}、{x} 和 {y}</translation>
+    </message>
+    <message>
+        <source>Custom tile URL problem</source>
+        <translation>自定义瓦片 URL 有误</translation>
+    </message>
+    <message>
+        <source>Tile cache:</source>
+        <translation>瓦片缓存：</translation>
+    </message>
+    <message>
+        <source>Tile cache size</source>
+        <translation>瓦片缓存大小</translation>
+    </message>
+    <message>
+        <source>Megabytes of downloaded tiles kept on the disk, from 10 to 2000</source>
+        <translation>在磁盘上保留的已下载瓦片大小（MB），范围 10 至 2000</translation>
+    </message>
+    <message>
+        <source>Clear Cache</source>
+        <translation>清除缓存</translation>
+    </message>
+    <message>
+        <source>Clear tile cache</source>
+        <translation>清除瓦片缓存</translation>
+    </message>
+    <message>
+        <source>Tile cache problem</source>
+        <translation>瓦片缓存有误</translation>
+    </message>
+    <message>
+        <source>Tile cache status</source>
+        <translation>瓦片缓存状态</translation>
+    </message>
+    <message>
+        <source>Playback</source>
+        <translation>播放</translation>
+    </message>
+    <message>
+        <source>Play clips continuously</source>
+        <translation>连续播放片段</translation>
+    </message>
+    <message>
+        <source>Video renderer:</source>
+        <translation>视频渲染器：</translation>
+    </message>
+    <message>
+        <source>Video renderer</source>
+        <translation>视频渲染器</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>Takes effect at the next start.</source>
+        <translation>下次启动时生效。</translation>
+    </message>
+    <message>
+        <source>About the video renderer</source>
+        <translation>关于视频渲染器</translation>
+    </message>
+    <message>
+        <source>Dialog buttons</source>
+        <translation>对话框按钮</translation>
+    </message>
+    <message>
+        <source>DASHTRACK_VIDEO_RENDERER overrides this.</source>
+        <translation>以 DASHTRACK_VIDEO_RENDERER 的设置为准。</translation>
+    </message>
+    <message>
+        <source>Clearing…</source>
+        <translation>正在清除…</translation>
+    </message>
+    <message>
+        <source>Enter the address of the tile server.</source>
+        <translation>请输入瓦片服务器的地址。</translation>
+    </message>
+    <message>
+        <source>The address must start with http:// or https://.</source>
+        <translation>地址必须以 http:// 或 https:// 开头。</translation>
+    </message>
+    <message>
+        <source>The address needs {z}, {x} and {y}.</source>
+        <translation>地址中须含有 {z}、{x} 和 {y}。</translation>
+    </message>
+    <message>
+        <source>This is not a valid address.</source>
+        <translation>这不是有效的地址。</translation>
+    </message>
+    <message>
+        <source>From %1 to %2 MB.</source>
+        <translation>范围为 %1 至 %2 MB。</translation>
+    </message>
+    <message>
+        <source>Use ±HH:MM, from -23:59 to +23:59.</source>
+        <translation>请使用 ±HH:MM 格式，范围 -23:59 至 +23:59。</translation>
+    </message>
+    <message>
+        <source>Cache cleared.</source>
+        <translation>缓存已清除。</translation>
+    </message>
+    <message>
+        <source>Some files could not be removed.</source>
+        <translation>部分文件无法删除。</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>RouteTracker</name>
     <message>
         <source>Car</source>
         <translation>车辆</translation>
+    </message>
+</context>
+<context>
+    <name>SaveSegment</name>
+    <message>
+        <source>Save Segment</source>
+        <translation>保存选段</translation>
+    </message>
+    <message>
+        <source>MPEG-4 movie (*.mp4)</source>
+        <translation>MPEG-4 视频 (*.mp4)</translation>
+    </message>
+    <message>
+        <source>QuickTime movie (*.mov)</source>
+        <translation>QuickTime 视频 (*.mov)</translation>
+    </message>
+    <message>
+        <source>Saving the segment…</source>
+        <translation>正在保存选段…</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Saving the segment</source>
+        <translation>正在保存选段</translation>
+    </message>
+    <message>
+        <source>The segment was not saved.</source>
+        <translation>选段未能保存。</translation>
+    </message>
+</context>
+<context>
+    <name>SnapshotSaveDialog</name>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>保存截图</translation>
+    </message>
+    <message>
+        <source>PNG image (*.png)</source>
+        <translation>PNG 图像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Stamp speed, place and time</source>
+        <translation>在图片上印上车速、位置和时间</translation>
+    </message>
+    <message>
+        <source>Draws the speed, latitude, longitude, date and time across the bottom of the saved picture</source>
+        <translation>在保存的图片底部印上车速、纬度、经度、日期和时间</translation>
     </message>
 </context>
 <context>
@@ -583,6 +887,18 @@ libmpv、FFmpeg 和 libplist：LGPL 2.1 或更高版本
     <message>
         <source>Speed over %1, highest %2 at %3</source>
         <translation>%1 内的车速，%3 时最高，为 %2</translation>
+    </message>
+    <message>
+        <source>; marked %1 to %2</source>
+        <translation>；已标记 %1 至 %2</translation>
+    </message>
+    <message>
+        <source>; marked from %1</source>
+        <translation>；已标记起点 %1</translation>
+    </message>
+    <message>
+        <source>; marked up to %1</source>
+        <translation>；已标记终点 %1</translation>
     </message>
 </context>
 <context>

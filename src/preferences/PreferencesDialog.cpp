@@ -10,6 +10,7 @@
 #include "TileUrlTemplate.h"
 
 #include <QCoreApplication>
+#include <QPushButton>
 #include <QFile>
 #include <QPointer>
 #include <QThreadPool>
@@ -36,25 +37,57 @@ PreferencesDialog::PreferencesDialog(GPSUtils& settings, QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::PreferencesDialog>()), settings_(settings),
       cacheDirectory_(NetworkTileProvider::defaultCacheDirectory()) {
     ui_->setupUi(this);
-    if (const char* forced = std::getenv("DASHTRACK_VIDEO_RENDERER"); forced != nullptr && *forced != '\0')
-        ui_->rendererNote->setText(tr("DASHTRACK_VIDEO_RENDERER overrides this."));
-    ui_->rendererNote->setAccessibleDescription(ui_->rendererNote->text());
-    ui_->clockCorrectionNote->setAccessibleDescription(ui_->clockCorrectionNote->text());
+    // Qt's own words are not shipped in every language the window speaks, and a standard button
+    // takes them back at each change of language: the Close button is ours, in the closing role.
+    ui_->buttons->setStandardButtons(QDialogButtonBox::NoButton);
+    closeButton_ = ui_->buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
+    closeButton_->setObjectName(QStringLiteral("closeButton"));
     for (QLabel* message : {ui_->clockCorrectionError, ui_->customUrlError, ui_->cacheError, ui_->cacheStatus})
         message->hide();
-    // The three groups' fields line up as if they were one form.
-    const QLabel* labels[] = {ui_->unitLabel,     ui_->clockCorrectionLabel, ui_->mapSourceLabel,
-                              ui_->customUrlLabel, ui_->cacheSizeLabel,       ui_->rendererLabel};
-    int labelWidth = 0;
-    for (const QLabel* label : labels) labelWidth = std::max(labelWidth, label->sizeHint().width());
-    for (QLabel* label : {ui_->unitLabel, ui_->clockCorrectionLabel, ui_->mapSourceLabel, ui_->customUrlLabel,
-                          ui_->cacheSizeLabel, ui_->rendererLabel})
-        label->setMinimumWidth(labelWidth);
+    sayTextsMadeInCode();
     showSettings();
     connectControls();
 }
 
 PreferencesDialog::~PreferencesDialog() = default;
+
+void PreferencesDialog::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::LanguageChange) {
+        ui_->retranslateUi(this);
+        sayTextsMadeInCode();
+        sayMessagesAgain();
+    }
+    QDialog::changeEvent(event);
+}
+
+void PreferencesDialog::sayTextsMadeInCode() {
+    if (const char* forced = std::getenv("DASHTRACK_VIDEO_RENDERER"); forced != nullptr && *forced != '\0')
+        ui_->rendererNote->setText(tr("DASHTRACK_VIDEO_RENDERER overrides this."));
+    ui_->rendererNote->setAccessibleDescription(ui_->rendererNote->text());
+    closeButton_->setText(tr("Close"));
+    ui_->clockCorrectionNote->setAccessibleDescription(ui_->clockCorrectionNote->text());
+    // The three groups' fields line up as if they were one form, whatever the language's widths.
+    QLabel* const labels[] = {ui_->unitLabel,     ui_->clockCorrectionLabel, ui_->mapSourceLabel,
+                              ui_->customUrlLabel, ui_->cacheSizeLabel,       ui_->rendererLabel};
+    int labelWidth = 0;
+    for (QLabel* label : labels) {
+        label->setMinimumWidth(0);
+        labelWidth = std::max(labelWidth, label->sizeHint().width());
+    }
+    for (QLabel* label : labels) label->setMinimumWidth(labelWidth);
+}
+
+void PreferencesDialog::sayMessagesAgain() {
+    // A field's message shows only while its value is refused: checking the field again says the
+    // message in the new language.
+    if (!ui_->clockCorrectionError->isHidden()) chooseClockCorrection();
+    if (!ui_->customUrlError->isHidden()) useCustomUrl();
+    if (!ui_->cacheError->isHidden()) chooseCacheSize(ui_->cacheSize->value());
+    if (clearing_)
+        showMessage(ui_->cacheStatus, tr("Clearing…"));
+    else
+        showMessage(ui_->cacheStatus, {});  // "Cache cleared." is old news by now
+}
 
 void PreferencesDialog::showSettings() {
     const QSignalBlocker blockers[] = {QSignalBlocker(ui_->unitKMH), QSignalBlocker(ui_->unitMPH),

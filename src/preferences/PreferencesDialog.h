@@ -16,6 +16,7 @@
 
 class GPSUtils;
 class QLabel;
+class QPushButton;
 namespace Ui {
 class PreferencesDialog;
 }
@@ -47,7 +48,13 @@ signals:
     // The cache's files are gone (emitted on the dialog's thread).
     void tileCacheCleared();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    // The texts the interface description cannot hold, again after a change of language.
+    void sayTextsMadeInCode();
+    void sayMessagesAgain();
     void connectControls();
     void chooseMapSource(int row);
     void useCustomUrl();
@@ -58,6 +65,7 @@ private:
 
     std::unique_ptr<Ui::PreferencesDialog> ui_;
     GPSUtils& settings_;
+    QPushButton* closeButton_ = nullptr;  // the button box's child
     QString cacheDirectory_;
     bool clearing_ = false;
 };

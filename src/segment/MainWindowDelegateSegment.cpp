@@ -7,6 +7,7 @@
 #include "ClipCatalog.h"
 #include "GPSPlayerView.h"
 #include "GPSUtils.h"
+#include "SegmentDialogs.h"
 #include "SegmentPlan.h"
 #include "SegmentSaver.h"
 #include "TimelineView.h"
@@ -14,7 +15,6 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMainWindow>
-
 
 namespace {
 
@@ -71,23 +71,9 @@ void MainWindowDelegate::OnSaveSegment() {
 
     const std::filesystem::path& first = request.clips.front().file;
     const QString suffix = suffixLike(first);
-    auto* dialog = new QFileDialog(outlets_.window);
-    dialog->setObjectName(QStringLiteral("segmentDialog"));
-    dialog->setWindowTitle(QStringLiteral("Save Segment"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    // Both containers are offered: sound that MP4 cannot hold (PCM) is kept in a MOV.
-    const QString mp4Filter = QStringLiteral("MPEG-4 movie (*.mp4)");
-    const QString movFilter = QStringLiteral("QuickTime movie (*.mov)");
-    dialog->setNameFilters({mp4Filter, movFilter});
-    dialog->selectNameFilter(suffix == QLatin1String("mov") ? movFilter : mp4Filter);
-    dialog->setDefaultSuffix(suffix);
-    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog, movFilter](const QString& filter) {
-        dialog->setDefaultSuffix(filter == movFilter ? QStringLiteral("mov") : QStringLiteral("mp4"));
-    });
-    dialog->setDirectory(QFile::decodeName(first.parent_path().c_str()));
-    dialog->selectFile(QFile::decodeName(first.stem().c_str()) + QStringLiteral("-segment.") + suffix);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QFileDialog* dialog =
+        makeSegmentSaveDialog(outlets_.window, suffix, QFile::decodeName(first.parent_path().c_str()),
+                              QFile::decodeName(first.stem().c_str()) + QStringLiteral("-segment.") + suffix);
     QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, request](const QString& file) mutable {
         request.movie = QFile::encodeName(file).toStdString();
         SegmentSaver::start(std::move(request), outlets_.window);

@@ -1,5 +1,7 @@
 #include "SegmentSaver.h"
 
+#include "SegmentDialogs.h"
+
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTimer>
@@ -32,15 +34,7 @@ SegmentSaver::~SegmentSaver() {
 }
 
 void SegmentSaver::showProgress() {
-    auto* dialog = new QProgressDialog(QStringLiteral("Saving the segment…"), QStringLiteral("Cancel"), 0,
-                                       kProgressSteps, window_);
-    dialog->setObjectName(QStringLiteral("segmentProgress"));
-    dialog->setWindowTitle(QStringLiteral("Save Segment"));
-    dialog->setAccessibleName(QStringLiteral("Saving the segment"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setMinimumDuration(0);
-    dialog->setAutoClose(false);
-    dialog->setAutoReset(false);
+    QProgressDialog* dialog = makeSegmentProgress(window_, kProgressSteps);
     connect(dialog, &QProgressDialog::canceled, this, [this] { worker_.request_stop(); });
     progressDialog_ = dialog;
     progressTimer_ = new QTimer(this);
@@ -55,11 +49,7 @@ void SegmentSaver::finish(const SegmentResult& result) {
     if (progressDialog_) progressDialog_->close();
     // A cancel is what the user asked for; any other failure is said.
     if (!result.ok() && result.error != kCutCancelled && window_ != nullptr) {
-        auto* box = new QMessageBox(QMessageBox::Warning, QStringLiteral("Save Segment"),
-                                    QStringLiteral("The segment was not saved."), QMessageBox::Ok, window_);
-        box->setInformativeText(QString::fromStdString(result.error));
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
+        makeSegmentFailure(window_, QString::fromStdString(result.error))->open();
     }
     emit finished(result);
     deleteLater();

@@ -11,8 +11,9 @@ const QSet<QString>& allowedWords() {
         // units and formats
         QStringLiteral("KM"), QStringLiteral("MPH"), QStringLiteral("km"), QStringLiteral("mi"),
         QStringLiteral("GPX"), QStringLiteral("KML"), QStringLiteral("GeoJSON"), QStringLiteral("CSV"),
-        QStringLiteral("PNG"), QStringLiteral("MP4"), QStringLiteral("MBTiles"), QStringLiteral("GPS"),
-        QStringLiteral("URL"), QStringLiteral("LED"),
+        QStringLiteral("PNG"), QStringLiteral("MP4"), QStringLiteral("MPEG"), QStringLiteral("QuickTime"), QStringLiteral("MBTiles"), QStringLiteral("GPS"),
+        QStringLiteral("URL"), QStringLiteral("LED"), QStringLiteral("OK"), QStringLiteral("MB"), QStringLiteral("http"), QStringLiteral("https"),
+        QStringLiteral("HH"), QStringLiteral("MM"),  // "±HH:MM", how a clock correction is typed
         // names
         QStringLiteral("Dashtrack"), QStringLiteral("OpenStreetMap"), QStringLiteral("OpenGL"),
         QStringLiteral("Google"), QStringLiteral("Baidu"), QStringLiteral("Qt"), QStringLiteral("libmpv"),
@@ -36,12 +37,18 @@ const QStringList& allowedPhrases() {
 
 // Plain-ASCII Vietnamese words that are English words too.
 const QSet<QString>& vietnameseWords() {
-    static const QSet<QString> words = {QStringLiteral("to")};  // "Phóng to": zoom in
+    static const QSet<QString> words = {
+        QStringLiteral("to"),     // "Phóng to": zoom in
+        QStringLiteral("video"),  // "Trình kết xuất video": video renderer
+    };
     return words;
 }
 
 QStringList asciiWords(QString text) {
     for (const QString& phrase : allowedPhrases()) text.remove(phrase);
+    // Addresses, as examples of what to type: "https://tile.example.org/{z}/{x}/{y}.png".
+    static const QRegularExpression address(QStringLiteral("https?://\\S+"));
+    text.remove(address);
     // File name patterns of filters: "*.mov".
     static const QRegularExpression pattern(QStringLiteral("\\*\\.[A-Za-z0-9]+"));
     text.remove(pattern);

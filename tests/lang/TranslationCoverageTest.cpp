@@ -4,20 +4,31 @@
 #include "AboutView.h"
 #include "CarMarkerView.h"
 #include "EnglishText.h"
+#include "ExportDialogs.h"
+#include "ExportFormatChoice.h"
 #include "GPSTableView.h"
 #include "GPSUtils.h"
 #include "MainWindow.h"
+#include "PreferencesDialog.h"
+#include "SegmentDialogs.h"
+#include "SnapshotSaveDialog.h"
 #include "TimelineView.h"
 #include "WindowTexts.h"
 #include "WindowTitleBar.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
+#include <QPushButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -66,6 +77,47 @@ const OpenedView openedViews[] = {
          w.controller().openArguments({std::filesystem::temp_directory_path() / "dashtrack-no-such-folder"});
          return w.findChild<QProgressDialog*>(QStringLiteral("scanProgress"));
      }},
+    {"preferences", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* {
+         w.controller().OnPreference(nullptr);
+         return w.controller().preferencesDialog();
+     }},
+    // With a refusal beside each field that has one: values out of range are never stored.
+    {"preferences refusing", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* {
+         w.controller().OnPreference(nullptr);
+         PreferencesDialog* dialog = w.controller().preferencesDialog();
+         auto* clock = dialog->findChild<QLineEdit*>(QStringLiteral("clockCorrection"));
+         clock->setText(QStringLiteral("99:99"));
+         emit clock->editingFinished();
+         dialog->findChild<QComboBox*>(QStringLiteral("mapSource"))->setCurrentIndex(3);  // custom URL
+         auto* url = dialog->findChild<QLineEdit*>(QStringLiteral("customUrl"));
+         url->setText(QStringLiteral("ftp://tiles"));
+         emit url->editingFinished();
+         dialog->findChild<QSpinBox*>(QStringLiteral("cacheSize"))->setValue(1);
+         return dialog;
+     }},
+    // The dialogs below come up only with movies loaded, a frame on screen or a job under way: they
+    // are made here by the functions the window makes them with. A file name of digits only keeps
+    // its own letters out of the count.
+    {"snapshot", Walk::FileDialog,
+     [](MainWindow& w, QWidget&) -> QWidget* { return makeSnapshotSaveDialog(&w, w.controller().settings()); }},
+    {"export track", Walk::FileDialog,
+     [](MainWindow& w, QWidget&) -> QWidget* {
+         return makeExportSaveDialog(&w, exportChoiceOfFormat(std::nullopt), QDir::tempPath(), QStringLiteral("2024"));
+     }},
+    {"export progress", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* { return makeExportProgress(&w, QStringLiteral("2024"), 3); }},
+    {"export failure", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* { return makeExportFailure(&w, QStringLiteral("2024"), {}); }},
+    {"save segment", Walk::FileDialog,
+     [](MainWindow& w, QWidget&) -> QWidget* {
+         return makeSegmentSaveDialog(&w, QStringLiteral("mov"), QDir::tempPath(), QStringLiteral("2024"));
+     }},
+    {"segment progress", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* { return makeSegmentProgress(&w, 1000); }},
+    {"segment failure", Walk::AllWidgets,
+     [](MainWindow& w, QWidget&) -> QWidget* { return makeSegmentFailure(&w, {}); }},
     // Made only on the window systems that draw their own title bar, and for a car on the map.
     {"title bar", Walk::AllWidgets, [](MainWindow&, QWidget& scratch) -> QWidget* { return new WindowTitleBar(scratch); }},
     {"car", Walk::AllWidgets, [](MainWindow&, QWidget& scratch) -> QWidget* { return new CarMarkerView(&scratch); }},
@@ -127,6 +179,9 @@ protected:
 };
 
 TEST_F(TranslationCoverageTest, EveryTextOfTheWindowAndItsViewsIsTranslated) {
+    // A marked span is read out with the timeline.
+    window_.controller().outlets().timeline->setMarkStart(0);
+    window_.controller().outlets().timeline->setMarkEnd(0);
     EnglishVocabulary english;
     const std::vector<ShownText> englishTexts = allTexts();
     for (const ShownText& text : englishTexts) addWords(english, text.text);
@@ -182,6 +237,48 @@ TEST_F(TranslationCoverageTest, TextsMadeInCodeFollowTheLanguage) {
     EXPECT_EQ(o.timeline->accessibleDescription(), QStringLiteral("No speed recorded over 0:00"));
 }
 
+// An open dialog changes language with the window: its interface description, the texts it makes
+// in code, and a refusal already shown beside a field, with the choices it shows left alone.
+TEST_F(TranslationCoverageTest, AnOpenPreferencesDialogFollowsTheLanguage) {
+    window_.controller().OnPreference(nullptr);
+    PreferencesDialog* dialog = window_.controller().preferencesDialog();
+    ASSERT_NE(dialog, nullptr);
+    auto* clock = dialog->findChild<QLineEdit*>(QStringLiteral("clockCorrection"));
+    clock->setText(QStringLiteral("99:99"));
+    emit clock->editingFinished();
+    auto* source = dialog->findChild<QComboBox*>(QStringLiteral("mapSource"));
+    source->setCurrentIndex(4);  // offline
+    const auto shown = [&] {
+        return std::vector<QString>{
+            dialog->windowTitle(),
+            dialog->findChild<QLabel*>(QStringLiteral("clockCorrectionError"))->text(),
+            dialog->findChild<QPushButton*>(QStringLiteral("closeButton"))->text(),
+            source->itemText(0),
+            source->currentText(),
+        };
+    };
+    const struct {
+        const char* item;
+        std::vector<const char*> texts;
+    } rows[] = {
+        {"languageJananese",
+         {"環境設定", "±HH:MM の形式で、-23:59～+23:59 の範囲で入力してください。", "閉じる", "OpenStreetMap",
+          "オフラインで作業"}},
+        {"languageVietnamese",
+         {"Tùy chọn", "Dùng dạng ±HH:MM, từ -23:59 đến +23:59.", "Đóng", "OpenStreetMap", "Làm việc ngoại tuyến"}},
+        {"languageEnglish",
+         {"Preferences", "Use ±HH:MM, from -23:59 to +23:59.", "Close", "OpenStreetMap", "Work Offline"}},
+    };
+    for (const auto& row : rows) {
+        choose(row.item);
+        std::vector<QString> expected;
+        for (const char* text : row.texts) expected.push_back(QString::fromUtf8(text));
+        EXPECT_EQ(shown(), expected) << row.item;
+    }
+    EXPECT_EQ(settings_.clockCorrectionMinutes(), 0) << "the refused value is not stored on the way";
+    dialog->close();
+}
+
 TEST(EnglishText, TellsTextsLeftInEnglishFromTranslatedOnes) {
     EnglishVocabulary english;
     addWords(english, QStringLiteral("Close window"));
@@ -195,6 +292,8 @@ TEST(EnglishText, TellsTextsLeftInEnglishFromTranslatedOnes) {
         {"ja", "開く(&O)…", false},
         {"ja", "10 秒戻る (Left)", false},
         {"ja", "Movies (*.mov *.MP4)", true},
+        {"ja", "https://tile.example.org/{z}/{x}/{y}.png", false},
+        {"ja", "Custom URL: https://tile.example.org/{z}.png", true},
         {"ja", "動画 (*.mov *.MOV *.mp4)", false},
         {"zh_CN", "Qt：LGPL 3\nLED 字体：SIL Open Font License 1.1", false},
         {"zh_CN", "打开 Tile 文件夹", true},

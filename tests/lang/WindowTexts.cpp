@@ -4,11 +4,16 @@
 #include <QAbstractItemModel>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFileDialog>
+#include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QSpinBox>
 #include <QTableView>
 #include <QTextDocumentFragment>
 
@@ -52,6 +57,11 @@ void addWidget(std::vector<ShownText>& texts, const QWidget& widget) {
         const QString text = label->text();
         add(texts, widget, "text", Qt::mightBeRichText(text) ? QTextDocumentFragment::fromHtml(text).toPlainText() : text);
     }
+    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) add(texts, widget, "title", group->title());
+    if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
+        for (int item = 0; item < combo->count(); ++item) add(texts, widget, "item", combo->itemText(item));
+    if (const auto* spin = qobject_cast<const QSpinBox*>(&widget)) add(texts, widget, "suffix", spin->suffix());
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) add(texts, widget, "placeholder", edit->placeholderText());
     if (const auto* menu = qobject_cast<const QMenu*>(&widget)) addMenu(texts, *menu);
     if (const auto* table = qobject_cast<const QTableView*>(&widget); table != nullptr && table->model() != nullptr)
         for (int column = 0; column < table->model()->columnCount(); ++column)
@@ -78,5 +88,7 @@ std::vector<ShownText> fileDialogTexts(const QFileDialog& dialog) {
     std::vector<ShownText> texts;
     add(texts, dialog, "windowTitle", dialog.windowTitle());
     for (const QString& filter : dialog.nameFilters()) add(texts, dialog, "nameFilter", filter);
+    // Qt's dialog has no check boxes of its own: any is one the program added.
+    for (const QCheckBox* box : dialog.findChildren<QCheckBox*>()) addWidget(texts, *box);
     return texts;
 }

@@ -19,5 +19,5 @@ struct ShownText {
 // (their own widgets are Qt's, see fileDialogTexts).
 std::vector<ShownText> widgetTexts(const QWidget& root);
 
-// What the program sets on a file dialog: its title and its filters.
+// What the program sets on a file dialog: its title, its filters and the check boxes it adds.
 std::vector<ShownText> fileDialogTexts(const QFileDialog& dialog);

@@ -7,6 +7,7 @@
 
 #include "ClipCatalog.h"
 #include "ClipExportTrack.h"
+#include "ExportDialogs.h"
 #include "ExportFormatChoice.h"
 #include "GPSUtils.h"
 #include "TrackExportJob.h"
@@ -113,27 +114,12 @@ void MainWindowDelegate::OnExportTrack(ExportScope scope) {
     const std::filesystem::path& first = playlist.at(spans.front().first).URL();
     const ExportFormatChoice& remembered = exportChoiceOfFormat(settings_.exportFormat());
 
-    auto* dialog = new QFileDialog(outlets_.window, QStringLiteral("Export Track"));
-    dialog->setObjectName(QStringLiteral("exportTrackDialog"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    QStringList filters;
-    for (const ExportFormatChoice& choice : exportFormatChoices()) filters << qText(choice.filter);
-    dialog->setNameFilters(filters);
-    dialog->selectNameFilter(qText(remembered.filter));
-    dialog->setDefaultSuffix(qText(remembered.suffix));
     // Beside the clips, named after the (first) clip, or after the playlist for all of it.
     QString stem = QFile::decodeName(first.stem().c_str());
     if (scope == ExportScope::SelectedTrip) stem += QStringLiteral("-trip");
     if (scope == ExportScope::Playlist) stem = QStringLiteral("playlist");
-    dialog->setDirectory(QFile::decodeName(first.parent_path().c_str()));
-    dialog->selectFile(stem + QLatin1Char('.') + qText(remembered.suffix));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    // The suffix follows the chosen format, so "trip" becomes trip.kml under KML.
-    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString& filter) {
-        if (const ExportFormatChoice* choice = exportChoiceOfFilter(filter.toStdString()))
-            dialog->setDefaultSuffix(qText(choice->suffix));
-    });
+    QFileDialog* dialog = makeExportSaveDialog(outlets_.window, remembered, QFile::decodeName(first.parent_path().c_str()),
+                                               stem + QLatin1Char('.') + qText(remembered.suffix));
     QObject::connect(dialog, &QFileDialog::fileSelected, this, [this, dialog, scope](const QString& file) {
         const ExportFormatChoice* choice = exportChoiceOfFilter(dialog->selectedNameFilter().toStdString());
         const std::string format(choice != nullptr ? choice->format : exportFormatChoices().front().format);
@@ -155,14 +141,7 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
     }
     auto job = std::make_shared<const TrackExportJob>(std::move(request));
 
-    auto* progress = new QProgressDialog(QStringLiteral("Exporting the track to %1…").arg(QFileInfo(file).fileName()),
-                                         QStringLiteral("Cancel"), 0, int(job->clipCount()), outlets_.window);
-    progress->setObjectName(QStringLiteral("exportProgress"));
-    progress->setWindowTitle(QStringLiteral("Export Track"));
-    progress->setAccessibleName(QStringLiteral("Export progress"));
-    progress->setAutoClose(false);
-    progress->setAutoReset(false);
-    progress->setMinimumDuration(500);
+    QProgressDialog* progress = makeExportProgress(outlets_.window, file, int(job->clipCount()));
     progress->setValue(0);
     auto cancel = std::make_shared<std::stop_source>();
     QObject::connect(progress, &QProgressDialog::canceled, progress, [cancel] { cancel->request_stop(); });
@@ -184,13 +163,7 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
             controller->exporting_ = false;
             controller->RefreshExportMenu();
             if (result.outcome != TrackExportResult::Outcome::Failed) return;
-            auto* failure = new QMessageBox(QMessageBox::Warning, QStringLiteral("Export Track"),
-                                            QStringLiteral("The track could not be written to %1: %2.")
-                                                .arg(QDir::toNativeSeparators(file), qText(result.error)),
-                                            QMessageBox::Ok, controller->outlets_.window);
-            failure->setObjectName(QStringLiteral("exportFailure"));
-            failure->setAttribute(Qt::WA_DeleteOnClose);
-            failure->open();
+            makeExportFailure(controller->outlets_.window, file, qText(result.error))->open();
         });
     });
 }
