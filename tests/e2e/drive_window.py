@@ -150,7 +150,12 @@ class Window:
 
     def position(self):
         """The Position slider's place between its ends, 0 to 1."""
-        acc = self.named("Position", (pyatspi.ROLE_SLIDER,))
+        return self.slider_fraction("Position")
+
+    def slider_fraction(self, name):
+        """A slider's place between its ends, 0 to 1."""
+        acc = self.named(name, (pyatspi.ROLE_SLIDER,))
+        acc.clear_cache()
         value = acc.queryValue()
         low, high = value.minimumValue, value.maximumValue
         return (value.currentValue - low) / (high - low) if high > low else 0.0
@@ -574,6 +579,23 @@ class Session:
         print(f"e2e: playerctl plays, pauses, reads {clip.name}'s metadata, sets the position, "
               f"and {command} loads {expected.name}")
 
+        self.playerctl("volume", "0.25")
+        wait_for("the Volume slider at a quarter after playerctl volume 0.25",
+                 lambda: (abs((v := self.window.slider_fraction("Volume")) - 0.25) < 0.02, v))
+        wait_for("playerctl to read the volume back",
+                 lambda: (abs((v := float(self.playerctl("volume"))) - 0.25) < 0.02, v))
+        rows = self.playlist_rows()
+        opened = self.out / "opened-by-uri.MOV"
+        shutil.copyfile(Path(self.args.open[0]) / self.clips[-1].name, opened)
+        self.playerctl("open", opened.resolve().as_uri())
+        wait_for(f"playerctl open to add a row to the {rows}", lambda: ((n := self.playlist_rows()) == rows + 1, n))
+        print("e2e: playerctl sets the volume the slider shows, and open adds a clip to the playlist")
+
+    def playlist_rows(self):
+        table = self.window.named("Playlist", (pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE_TABLE))
+        table.clear_cache()
+        return table.queryTable().nRows
+
     def later_start_adds_to_this_window(self):
         table = self.window.named("Playlist", (pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE_TABLE))
 
@@ -595,6 +617,17 @@ class Session:
         wait_for(f"the playlist to grow from {before} to {before + 1} rows", lambda: ((n := rows()) == before + 1, n))
         self.shoot("later-start-added")
         print(f"e2e: a later start added {name} to the running window's playlist and exited")
+
+        # --new-window opts out: a window of its own plays the clip (and quits at its first frame),
+        # and the running window's playlist stays as it was.
+        own = subprocess.run([str(launcher), "--new-window", "--quit-at-first-frame", name], cwd=later,
+                             capture_output=True, text=True, timeout=DEADLINE)
+        if own.returncode != 0:
+            raise Failure(f"expected --new-window to open its own window and quit at its first frame; "
+                          f"saw status {own.returncode}, output {own.stdout + own.stderr!r}")
+        if rows() != before + 1:
+            raise Failure(f"expected --new-window to leave the running window's {before + 1} rows; saw {rows()}")
+        print("e2e: --new-window played the clip in a window of its own and left the running one alone")
     def export_track_writes_gpx(self):
         """File, Export Track, Loaded Clip… into a GPX: the document dashtrack-gps writes for that
         clip, whose points exiftool reads back."""
