@@ -1,6 +1,7 @@
 #include "TimelineText.h"
 
 #include "Phrase.h"
+#include "TripText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,14 +9,7 @@
 
 std::string clockText(double seconds) {
     // Beyond a thousand hours a time is not a trip's: it only has to print without overflowing.
-    const double whole = std::isfinite(seconds) ? std::floor(std::clamp(seconds, 0.0, 3.6e6)) : 0.0;
-    const long total = static_cast<long>(whole);
-    char text[32];
-    if (total >= 3600)
-        std::snprintf(text, sizeof text, "%ld:%02ld:%02ld", total / 3600, total / 60 % 60, total % 60);
-    else
-        std::snprintf(text, sizeof text, "%ld:%02ld", total / 60, total % 60);
-    return text;
+    return durationText(std::isfinite(seconds) ? std::min(seconds, 3.6e6) : 0.0);
 }
 
 std::string speedText(float speed, std::string_view unitName) {

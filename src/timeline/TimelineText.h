@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-// "m:ss" under an hour, "h:mm:ss" from an hour; whole seconds, rounded down. Negative or
-// non-finite times read 0:00.
+// A time on the line as durationText writes it ("m:ss", "h:mm:ss"), up to a thousand hours;
+// negative or non-finite times read 0:00.
 std::string clockText(double seconds);
 
 // A speed with one decimal and its unit: "87.5 KM/H".
