@@ -45,10 +45,9 @@ void nameButton(QToolButton* button, const QString& name) {
     button->setToolTip(name);
 }
 
-QToolButton* makeButton(QWidget* parent, const QString& text, const QString& name) {
+QToolButton* makeButton(QWidget* parent, const QString& text) {
     auto* button = new QToolButton(parent);
     button->setText(text);
-    nameButton(button, name);
     button->setFixedSize(26, 26);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
@@ -69,11 +68,11 @@ bool isUsable(Coordinate c) {
 
 MapView::MapView(QWidget* parent)
     : QWidget(parent), animation_(new QVariantAnimation(this)),
-      zoomInButton_(makeButton(this, QStringLiteral("+"), tr("Zoom in"))),
-      zoomOutButton_(makeButton(this, QStringLiteral("\u2212"), tr("Zoom out"))),
-      recenterButton_(makeButton(this, QStringLiteral("\u25CE"), tr("Centre on car"))),
+      zoomInButton_(makeButton(this, QStringLiteral("+"))),
+      zoomOutButton_(makeButton(this, QStringLiteral("\u2212"))),
+      recenterButton_(makeButton(this, QStringLiteral("\u25CE"))),
       callout_(new QLabel(this)) {
-    setAccessibleName(tr("Map"));
+    nameControls();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(120, 90);
 
@@ -100,13 +99,15 @@ MapView::MapView(QWidget* parent)
     placeButtons();
 }
 
+void MapView::nameControls() {
+    setAccessibleName(tr("Map"));
+    nameButton(zoomInButton_, tr("Zoom in"));
+    nameButton(zoomOutButton_, tr("Zoom out"));
+    nameButton(recenterButton_, tr("Centre on car"));
+}
+
 void MapView::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::LanguageChange) {
-        setAccessibleName(tr("Map"));
-        nameButton(zoomInButton_, tr("Zoom in"));
-        nameButton(zoomOutButton_, tr("Zoom out"));
-        nameButton(recenterButton_, tr("Centre on car"));
-    }
+    if (event->type() == QEvent::LanguageChange) nameControls();
     QWidget::changeEvent(event);
 }
 

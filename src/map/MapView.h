@@ -110,6 +110,8 @@ private:
     void placeAnnotations();
     void placeCallout();
     void placeButtons();
+    // The names and tooltips in the interface's language: at construction and on each change.
+    void nameControls();
     void showCallout(QWidget* markerView);
 
     QPointer<TileProvider> provider_;
