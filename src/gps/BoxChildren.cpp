@@ -32,7 +32,7 @@ std::optional<Box> BoxChildren::next() {
         if (end_ - at_ < headerBytes ||
             file_.read(std::span(header.data() + kHeaderBytes, kHeaderBytes)) != kHeaderBytes)
             return std::nullopt;
-        size = uint64_t(readU32BE(&header[8])) << 32 | readU32BE(&header[12]);
+        size = readU64BE(&header[8]);
     } else if (size == 0) {
         size = end_ - at_;  // the box runs to the end of its parent
     }

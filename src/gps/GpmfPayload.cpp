@@ -1,10 +1,10 @@
 #include "GpmfPayload.h"
 
 #include "BigEndian.h"
+#include "UtcSeconds.h"
 
 #include <algorithm>
 #include <bit>
-#include <chrono>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -23,8 +23,6 @@ constexpr double kEpoch2000 = 946684800.0;
 // Fields a GPS struct must have, and divisors its SCAL must give.
 constexpr std::size_t kGps5Fields = 5;
 constexpr std::size_t kGps9Fields = 9;
-
-uint64_t readU64BE(const uint8_t* p) { return uint64_t(readU32BE(p)) << 32 | readU32BE(p + 4); }
 
 struct Item {
     std::string_view key;
@@ -150,7 +148,7 @@ std::optional<std::vector<double>> divisors(const std::vector<double>& scale, st
 
 // "yymmddhhmmss.sss" as seconds since 1970 (years 2000–2099); absent for anything else, which
 // some cameras write before their first lock.
-std::optional<double> utcSeconds(std::span<const uint8_t> text) {
+std::optional<double> gpsuSeconds(std::span<const uint8_t> text) {
     constexpr std::size_t kDigits = 12;
     if (text.size() < kDigits) return std::nullopt;
     int pairs[kDigits / 2] = {};
@@ -159,15 +157,11 @@ std::optional<double> utcSeconds(std::span<const uint8_t> text) {
         pairs[i / 2] = pairs[i / 2] * 10 + (text[i] - '0');
     }
     const auto [yy, mm, dd, hour, minute, second] = pairs;
-    using namespace std::chrono;
-    const year_month_day date{year(2000 + yy), month(unsigned(mm)), day(unsigned(dd))};
-    if (!date.ok() || hour > 23 || minute > 59 || second > 60) return std::nullopt;
     double fraction = 0, unit = 0.1;
     if (text.size() > kDigits && text[kDigits] == '.')
         for (std::size_t i = kDigits + 1; i < text.size() && text[i] >= '0' && text[i] <= '9'; ++i, unit /= 10)
             fraction += (text[i] - '0') * unit;
-    const double days = double(sys_days(date).time_since_epoch().count());
-    return days * kSecondsPerDay + hour * 3600.0 + minute * 60.0 + second + fraction;
+    return utcSeconds(2000 + yy, unsigned(mm), unsigned(dd), hour, minute, second + fraction);
 }
 
 GPSFix::Quality qualityOf(double fix) {
@@ -262,7 +256,7 @@ void PayloadWalker::take(const Item& item, NestState& state, int depth, std::vec
     } else if (item.is("TYPE")) {
         state.typeText.assign(item.data.begin(), item.data.end());
     } else if (item.is("GPSU")) {
-        state.utc = utcSeconds(item.data);
+        state.utc = gpsuSeconds(item.data);
     } else if (item.is("GPSF")) {
         const std::vector<double> fix = numbers(item);
         state.quality = fix.empty() ? GPSFix::Quality::Unknown : qualityOf(fix.front());

@@ -6,12 +6,6 @@
 #include <array>
 #include <cstdint>
 
-namespace {
-
-uint64_t readU64BE(const uint8_t* p) { return uint64_t(readU32BE(p)) << 32 | readU32BE(p + 4); }
-
-}  // namespace
-
 std::optional<MovieHeader> readMovieHeader(SeekableFile& file) {
     const FileRange moov = GPSDataLoader::loadBox("moov", file, 0);
     if (!moov.found()) return std::nullopt;

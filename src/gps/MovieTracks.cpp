@@ -77,8 +77,7 @@ SampleTable readSampleTable(SeekableFile& file, FileRange stbl, uint64_t cap) {
     if (const std::optional<FileRange> stco = BoxChildren::find(file, stbl, "stco"))
         readTable(file, *stco, 8, 4, cap, [&](const uint8_t* e) { t.chunkOffsets.push_back(readU32BE(e)); });
     else if (const std::optional<FileRange> co64 = BoxChildren::find(file, stbl, "co64"))
-        readTable(file, *co64, 8, 8, cap,
-                  [&](const uint8_t* e) { t.chunkOffsets.push_back(uint64_t(readU32BE(e)) << 32 | readU32BE(e + 4)); });
+        readTable(file, *co64, 8, 8, cap, [&](const uint8_t* e) { t.chunkOffsets.push_back(readU64BE(e)); });
     if (const std::optional<FileRange> stsc = BoxChildren::find(file, stbl, "stsc"))
         readTable(file, *stsc, 8, 12, cap,
                   [&](const uint8_t* e) { t.chunkRuns.emplace_back(readU32BE(e), readU32BE(e + 4)); });

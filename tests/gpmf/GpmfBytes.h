@@ -1,5 +1,8 @@
 #pragma once
-// Builds GPMF payloads and movie boxes byte by byte, for cases no camera file shows.
+// Builds GPMF payloads byte by byte, for cases no camera file shows; boxes come from the movie
+// builder of the GPS tests.
+
+#include "SyntheticMovie.h"
 
 #include <array>
 #include <chrono>
@@ -9,8 +12,6 @@
 #include <string_view>
 #include <vector>
 
-using Bytes = std::vector<uint8_t>;
-
 // Seconds since 1970 of a UTC date and time.
 inline double utc(int y, unsigned mo, unsigned d, int h, int mi, double s) {
     using namespace std::chrono;
@@ -19,12 +20,6 @@ inline double utc(int y, unsigned mo, unsigned d, int h, int mi, double s) {
 
 inline void appendBE(Bytes& out, uint64_t v, int bytes) {
     for (int i = bytes - 1; i >= 0; --i) out.push_back(uint8_t(v >> (8 * i)));
-}
-
-inline Bytes concat(std::initializer_list<Bytes> parts) {
-    Bytes out;
-    for (const Bytes& p : parts) out.insert(out.end(), p.begin(), p.end());
-    return out;
 }
 
 // One GPMF item, its data padded to 4 bytes.
@@ -66,11 +61,4 @@ inline Bytes gps5(std::initializer_list<std::array<double, 3>> latLonSpeed) {
     return item("GPS5", 'l', 20, uint16_t(latLonSpeed.size()), data);
 }
 
-// A box: 32-bit size, type, payload.
-inline Bytes box(std::string_view type, const Bytes& payload = {}) {
-    Bytes out;
-    appendBE(out, payload.size() + 8, 4);
-    out.insert(out.end(), type.begin(), type.end());
-    return concat({out, payload});
-}
 inline Bytes box(std::string_view type, std::initializer_list<Bytes> children) { return box(type, concat(children)); }

@@ -2,8 +2,8 @@
 // exiftool, where installed, reads the same fixes.
 
 #include "CivilTime.h"
+#include "ExiftoolFixes.h"
 #include "GPSDataLoader.h"
-#include "RunCommand.h"
 #include "SampleMovie.h"
 #include "TempDir.h"
 
@@ -11,7 +11,6 @@
 
 #include <cmath>
 #include <cstdio>
-#include <sstream>
 
 namespace {
 
@@ -47,50 +46,41 @@ MovieOptions options(GPSRecordForm form) {
     return o;
 }
 
-struct Point {
-    double latitude, longitude, kmh;
-};
-
-// exiftool's fixes in order: "-ee -n" gives every block's values, one line a fix.
-std::vector<Point> exiftoolFixes(const std::filesystem::path& movie) {
-    const auto run = runCommand("exiftool -q -q -ee -n -p '$GPSLatitude $GPSLongitude $GPSSpeed' " +
-                                quoted(movie.string()) + " 2>/dev/null");
-    std::vector<Point> points;
-    std::istringstream lines(run.output);
-    for (Point p; lines >> p.latitude >> p.longitude >> p.kmh;) points.push_back(p);
-    return points;
-}
-
 std::string clockText(const CivilTime& c) {
     char text[16];
     std::snprintf(text, sizeof text, "%02d:%02d:%02d", c.hour, c.minute, c.second);
     return text;
 }
 
-bool haveExiftool() { return runCommand("exiftool -ver >/dev/null 2>&1").status == 0; }
-
-TEST(FreeGpsMovieTest, EachLayoutReadsBackTheRoute) {
-    TempDir dir;
+// Writes each layout's movie along each route and hands it to check with the loader's track.
+template <class Check>
+void forEachMovie(Check check) {
+    const TempDir dir;
     for (const Variant& v : kVariants) {
         for (const Route& route : routes()) {
             SCOPED_TRACE(std::string(v.name) + " from " + std::to_string(route.points()[0].latitude));
             const auto path = dir.path() / (std::string(v.name) + ".mov");
             writeSampleMovie(route, options(v.form), path);
-            const GPSTrack track = GPSDataLoader::LoadTrack(path);
-            ASSERT_EQ(track.layout, GPSLayout::Index);
-            ASSERT_EQ(track.samples.size(), 6u);
-            EXPECT_EQ(track.formCounts[std::size_t(v.form)], 6u);
-            for (std::size_t k = 0; k < track.samples.size(); ++k) {
-                const RouteSample want = route.at(double(route.startTime() + int64_t(k) + 1));
-                const GPSData& got = track.samples[k];
-                EXPECT_EQ(got.data().rmcinfo.Status, 'A');
-                EXPECT_NEAR(got.Latitude(), want.latitude, v.degrees + 2e-6);  // the sample keeps a float
-                EXPECT_NEAR(got.Longitude(), want.longitude, v.degrees + 8e-6);
-                EXPECT_NEAR(got.SpeedMPH(), want.speed, v.knots + 1e-4);
-                EXPECT_EQ(got.TimeText(), clockText(fromClockSeconds(want.time)));
-            }
+            check(v, route, path, GPSDataLoader::LoadTrack(path));
         }
     }
+}
+
+TEST(FreeGpsMovieTest, EachLayoutReadsBackTheRoute) {
+    forEachMovie([](const Variant& v, const Route& route, const std::filesystem::path&, const GPSTrack& track) {
+        ASSERT_EQ(track.layout, GPSLayout::Index);
+        ASSERT_EQ(track.samples.size(), 6u);
+        EXPECT_EQ(track.formCounts[std::size_t(v.form)], 6u);
+        for (std::size_t k = 0; k < track.samples.size(); ++k) {
+            const RouteSample want = route.at(double(route.startTime() + int64_t(k) + 1));
+            const GPSData& got = track.samples[k];
+            EXPECT_EQ(got.data().rmcinfo.Status, 'A');
+            EXPECT_NEAR(got.Latitude(), want.latitude, v.degrees + 2e-6);  // the sample keeps a float
+            EXPECT_NEAR(got.Longitude(), want.longitude, v.degrees + 8e-6);
+            EXPECT_NEAR(got.SpeedMPH(), want.speed, v.knots + 1e-4);
+            EXPECT_EQ(got.TimeText(), clockText(fromClockSeconds(want.time)));
+        }
+    });
 }
 
 // exiftool 12.57 reads types 1, 2 and 3 through the "gps " index. Its indexed reading has no
@@ -98,27 +88,23 @@ TEST(FreeGpsMovieTest, EachLayoutReadsBackTheRoute) {
 // scan that stops short of the last 32 KiB: it may miss the last block.
 TEST(FreeGpsMovieTest, ExiftoolReadsTheSameFixes) {
     if (!haveExiftool()) GTEST_SKIP() << "exiftool is not installed";
-    TempDir dir;
-    for (const Variant& v : kVariants) {
-        for (const Route& route : routes()) {
-            SCOPED_TRACE(std::string(v.name) + " from " + std::to_string(route.points()[0].latitude));
-            const auto path = dir.path() / (std::string(v.name) + ".mov");
-            writeSampleMovie(route, options(v.form), path);
-            const GPSTrack track = GPSDataLoader::LoadTrack(path);
-            const std::vector<Point> theirs = exiftoolFixes(path);
-            if (v.form == GPSRecordForm::Type20) {
-                EXPECT_GE(theirs.size() + 1, track.samples.size());
-                EXPECT_LE(theirs.size(), track.samples.size());
-            } else {
-                EXPECT_EQ(theirs.size(), track.samples.size());
-            }
-            for (std::size_t k = 0; k < std::min(theirs.size(), track.samples.size()); ++k) {
-                EXPECT_NEAR(theirs[k].latitude, track.samples[k].Latitude(), 1e-5);
-                EXPECT_NEAR(theirs[k].longitude, track.samples[k].Longitude(), 2e-5);
-                EXPECT_NEAR(theirs[k].kmh, track.samples[k].SpeedKMH(), 1e-3);
-            }
+    forEachMovie([](const Variant& v, const Route&, const std::filesystem::path& path, const GPSTrack& track) {
+        const ExiftoolFixes theirs = exiftoolFixes(path);
+        const std::size_t found = theirs.latitudes.size();
+        ASSERT_EQ(theirs.longitudes.size(), found);
+        ASSERT_EQ(theirs.speeds.size(), found);
+        if (v.form == GPSRecordForm::Type20) {
+            EXPECT_GE(found + 1, track.samples.size());
+            EXPECT_LE(found, track.samples.size());
+        } else {
+            EXPECT_EQ(found, track.samples.size());
         }
-    }
+        for (std::size_t k = 0; k < std::min(found, track.samples.size()); ++k) {
+            EXPECT_NEAR(theirs.latitudes[k], track.samples[k].Latitude(), 1e-5);
+            EXPECT_NEAR(theirs.longitudes[k], track.samples[k].Longitude(), 2e-5);
+            EXPECT_NEAR(theirs.speeds[k], track.samples[k].SpeedKMH(), 1e-3);
+        }
+    });
 }
 
 }  // namespace

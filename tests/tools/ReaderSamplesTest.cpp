@@ -1,8 +1,8 @@
 // The generator's tracks other than the camera blocks, read back by the loader; and exiftool, which
 // reads most of the formats on its own, finding the same fixes as the loader in every sample it knows.
 #include "CivilTime.h"
+#include "ExiftoolFixes.h"
 #include "GPSDataLoader.h"
-#include "RunCommand.h"
 #include "SampleMovie.h"
 #include "TempDir.h"
 #include "TimeZoneGuard.h"
@@ -11,8 +11,7 @@
 
 #include <bit>
 #include <cmath>
-#include <cstdlib>
-#include <sstream>
+#include <cstdio>
 
 namespace {
 
@@ -116,29 +115,6 @@ TEST(ReaderSamples, TheLoaderReadsBackEveryFixOfTheRoute) {
 
 namespace {
 
-struct ExiftoolFixes {
-    std::vector<double> latitudes, longitudes, speeds;
-};
-
-// Every GPS position exiftool extracts from a file, in its units: degrees, and the speed as the
-// format stores it (m/s from GPMF, km/h from knots elsewhere).
-ExiftoolFixes exiftoolFixes(const std::filesystem::path& file) {
-    const CommandResult run = runCommand("exiftool -ee -n -G3 -a -s -GPSLatitude -GPSLongitude -GPSSpeed " +
-                                         quoted(file.string()) + " 2>/dev/null");
-    ExiftoolFixes found;
-    std::istringstream lines(run.output);
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream words(line);
-        std::string group, name, colon;
-        double value = 0;
-        if (!(words >> group >> name >> colon >> value)) continue;
-        if (name == "GPSLatitude") found.latitudes.push_back(value);
-        if (name == "GPSLongitude") found.longitudes.push_back(value);
-        if (name == "GPSSpeed") found.speeds.push_back(value);
-    }
-    return found;
-}
-
 struct Reading {
     double latitude, longitude, speed;  // the loader's, in the units below
 };
@@ -189,7 +165,7 @@ MovieOptions blocks(GPSRecordForm form) {
 // by an index only where a box header "\0..\0freeGPS " starts them, the 32 KiB blocks of the
 // cameras it knows; a 92-byte block's size word ends in 0x5c.
 TEST(ReaderSamples, ExiftoolFindsTheSameFixes) {
-    if (runCommand("exiftool -ver >/dev/null 2>&1").status != 0) GTEST_SKIP() << "exiftool is not installed";
+    if (!haveExiftool()) GTEST_SKIP() << "exiftool is not installed";
     const TimeZoneGuard utc("UTC");
     // Kowloon, north and east: exiftool gives every value without its hemisphere's sign.
     const Route route = Route::load(std::filesystem::path(DASHTRACK_FIXTURE_DIR) / "route10.csv");

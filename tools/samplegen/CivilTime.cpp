@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <chrono>
+#include <cstdio>
 #include <ctime>
 
 namespace {
@@ -59,4 +60,10 @@ int64_t localInstant(const CivilTime& t) {
     parts.tm_sec = t.second;
     parts.tm_isdst = -1;  // let the zone's rules decide
     return int64_t(std::mktime(&parts));
+}
+
+std::string clockDigits(const CivilTime& t) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d%02d%02d%02d%02d%02d", t.year, t.month, t.day, t.hour, t.minute, t.second);
+    return text;
 }

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 struct CivilTime {
@@ -20,6 +21,9 @@ struct CivilTime {
 // Seconds since 1970-01-01 00:00:00 of the same wall clock.
 int64_t toClockSeconds(const CivilTime& time);
 CivilTime fromClockSeconds(int64_t seconds);
+
+// "YYYYMMDDhhmmss", as camera blocks and track samples write their clock.
+std::string clockDigits(const CivilTime& time);
 
 // "YYYY-MM-DDTHH:MM:SS" (a blank in place of the T is accepted). Absent when malformed or not
 // a real calendar date.

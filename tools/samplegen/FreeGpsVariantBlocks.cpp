@@ -1,6 +1,7 @@
 #include "FreeGpsVariantBlocks.h"
 
 #include "CivilTime.h"
+#include "NmeaSentences.h"
 
 #include <algorithm>
 #include <bit>
@@ -51,10 +52,6 @@ std::string printed(const char* format, auto... values) {
     return std::string(text, std::size_t(std::clamp(n, 0, int(sizeof text) - 1)));
 }
 
-std::string clockDigits(const CivilTime& c) {
-    return printed("%04d%02d%02d%02d%02d%02d", c.year, c.month, c.day, c.hour, c.minute, c.second);
-}
-
 char northSouth(double latitude) { return latitude < 0 ? 'S' : 'N'; }
 char eastWest(double longitude) { return longitude < 0 ? 'W' : 'E'; }
 
@@ -74,22 +71,21 @@ std::vector<uint8_t> type1Block(const RouteSample& s, const CivilTime& clock) {
     return std::move(block.bytes());
 }
 
-std::string rmcSentence(const RouteSample& s, const CivilTime& c) {
+// The block's RMC: two decimals of speed and course, a blank before it and CR LF after.
+std::string type2Sentence(const RouteSample& s, const CivilTime& c) {
     const auto lat = degreesMinutesTenThousandths(s.latitude), lon = degreesMinutesTenThousandths(s.longitude);
     const std::string body = printed("GPRMC,%02d%02d%02d.000,A,%04llu.%04llu,%c,%05llu.%04llu,%c,%.2f,%.2f,%02d%02d%02d,,,A",
                                      c.hour, c.minute, c.second, (unsigned long long)(lat / 10000),
                                      (unsigned long long)(lat % 10000), northSouth(s.latitude),
                                      (unsigned long long)(lon / 10000), (unsigned long long)(lon % 10000),
                                      eastWest(s.longitude), s.speed, s.heading, c.day, c.month, c.year % 100);
-    uint8_t checksum = 0;
-    for (char ch : body) checksum ^= uint8_t(ch);
-    return " $" + body + printed("*%02X\r\n", unsigned(checksum));
+    return " " + nmeaSentence(body) + "\r\n";
 }
 
 std::vector<uint8_t> type2Block(const RouteSample& s, const CivilTime& clock) {
     BlockBytes block;
     block.putText(52, clockDigits(clock));
-    block.putText(0x50, rmcSentence(s, clock));  // the accelerometer words at 68 stay zero
+    block.putText(0x50, type2Sentence(s, clock));  // the accelerometer words at 68 stay zero
     return std::move(block.bytes());
 }
 

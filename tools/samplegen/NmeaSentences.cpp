@@ -30,8 +30,9 @@ std::string position(const RouteSample& at) {
            (at.longitude < 0 ? ",W" : ",E");
 }
 
-// "$" + body + "*hh", hh the XOR of the body's bytes.
-std::string sentence(const std::string& body) {
+}  // namespace
+
+std::string nmeaSentence(const std::string& body) {
     unsigned checksum = 0;
     for (char c : body) checksum ^= uint8_t(c);
     char tail[8];
@@ -39,17 +40,15 @@ std::string sentence(const std::string& body) {
     return "$" + body + tail;
 }
 
-}  // namespace
-
 std::string rmcSentence(const RouteSample& at, double utcSeconds) {
     const CivilTime date = fromClockSeconds(int64_t(std::floor(utcSeconds)));
     char rest[64];
     std::snprintf(rest, sizeof rest, ",%.3f,%.1f,%02d%02d%02d,,,A",
                   at.speed /* knots, see TimedRoute.h */, at.heading, date.day,
                   date.month, date.year % 100);
-    return sentence("GPRMC," + timeOfDay(utcSeconds) + ",A," + position(at) + rest);
+    return nmeaSentence("GPRMC," + timeOfDay(utcSeconds) + ",A," + position(at) + rest);
 }
 
 std::string ggaSentence(const RouteSample& at, double utcSeconds) {
-    return sentence("GPGGA," + timeOfDay(utcSeconds) + "," + position(at) + ",1,08,0.9,0.0,M,0.0,M,,");
+    return nmeaSentence("GPGGA," + timeOfDay(utcSeconds) + "," + position(at) + ",1,08,0.9,0.0,M,0.0,M,,");
 }

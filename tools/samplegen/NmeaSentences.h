@@ -7,6 +7,9 @@
 
 #include <string>
 
+// "$" + body + "*hh", hh the XOR of the body's bytes.
+std::string nmeaSentence(const std::string& body);
+
 // Recommended minimum data: UTC time and date, position, speed over ground, course.
 std::string rmcSentence(const RouteSample& at, double utcSeconds);
 // Fix data: UTC time, position, a GPS fix with 8 satellites, altitude 0 m.

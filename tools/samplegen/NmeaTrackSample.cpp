@@ -33,10 +33,7 @@ void appendI32LE(std::vector<uint8_t>& out, int32_t value) {
 std::vector<uint8_t> makeNmeaTrackSample(const TimedRoute& route, int64_t second) {
     std::vector<uint8_t> out(2 + 4, 0);
     const CivilTime t = fromClockSeconds(route.clockStart + second);
-    char clock[16];
-    std::snprintf(clock, sizeof clock, "%04d%02d%02d%02d%02d%02d", t.year, t.month, t.day, t.hour, t.minute,
-                  t.second);
-    appendPadded(out, clock, 16);
+    appendPadded(out, clockDigits(t), 16);
     for (int32_t g : {12, -40, 1024}) appendI32LE(out, g);  // at rest, tilted a little
     const RouteSample at = route.at(double(second));
     const double utc = route.utcAt(double(second));
