@@ -20,6 +20,9 @@ void appendUtf8(std::string& out, char32_t codePoint);
 
 inline constexpr char32_t kReplacementCharacter = 0xFFFD;
 
+// True when every byte of text belongs to a well-formed UTF-8 sequence.
+bool isValidUtf8(std::string_view text);
+
 // Copies text to out for a format that escapes some characters: a run of bytes for which
 // plain(byte) holds goes in one append, as most texts are nothing else; every other character is
 // decoded (U+FFFD for bytes that are not UTF-8) and handed to escape(out, codePoint).
