@@ -26,7 +26,7 @@ constexpr double kClipSeconds = 20;
 // One frame at 15 frames a second, and a little.
 constexpr double kFrame = 0.07;
 
-PlayerTrack trackOf(const std::filesystem::path& clip) {
+ClipTrack trackOf(const std::filesystem::path& clip) {
     auto track = std::make_shared<std::vector<GPSData>>(1);
     const GPSTrack loaded = GPSDataLoader::LoadTrack(clip);
     track->insert(track->end(), loaded.samples.begin(), loaded.samples.end());
@@ -67,7 +67,7 @@ MovieFacts factsOf(const std::filesystem::path& movie) {
 
 // The camera's wall time at a second of a clip, from its first record (record k is at second k).
 double wallAt(const std::string& clip, double seconds) {
-    const PlayerTrack track = trackOf(kClips / clip);
+    const ClipTrack track = trackOf(kClips / clip);
     return double(*sampleClockSeconds((*track)[1].data().rmcinfo)) - 1 + seconds;
 }
 
