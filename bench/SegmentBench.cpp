@@ -2,26 +2,21 @@
 // AAC sound), within one clip and across two; the whole save as the window runs it (streams read,
 // cut, GPX written, renamed into place) into a folder under the system's temporary directory.
 #include "SegmentJob.h"
+#include "TempDir.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <string>
 
 namespace {
 
 const std::filesystem::path kClip = SEGMENT_BENCH_CLIP;
 constexpr double kClipSeconds = 70;
 
-std::filesystem::path scratchFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "dashtrack-segment-bench-XXXXXX").string();
-    return mkdtemp(pattern.data()) != nullptr ? std::filesystem::path(pattern) : std::filesystem::path();
-}
-
 void saveSegment(benchmark::State& state, std::size_t clips, SegmentSpan span) {
-    const std::filesystem::path folder = scratchFolder();
-    if (folder.empty()) return state.SkipWithError("no scratch folder");
+    // Removed with what the save left, however the run ends.
+    const TempDir folder;
+    if (folder.path().empty()) return state.SkipWithError("no scratch folder");
     SegmentRequest request{.clips = {}, .tracks = {}, .span = span, .movie = folder / "segment.mp4"};
     for (std::size_t i = 0; i < clips; ++i) {
         request.clips.push_back({kClip, kClipSeconds});
@@ -34,8 +29,6 @@ void saveSegment(benchmark::State& state, std::size_t clips, SegmentSpan span) {
         bytes = std::filesystem::file_size(request.movie);
     }
     state.counters["MB"] = double(bytes) / 1e6;
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
 }
 
 void withinOneClip(benchmark::State& state) { saveSegment(state, 1, {5, 65}); }

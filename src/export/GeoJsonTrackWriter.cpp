@@ -45,6 +45,15 @@ void appendJsonArray(OutputBuffer& out, const std::vector<const GPSData*>& sampl
     out << ']';
 }
 
+// The positions of a line, one a line.
+void appendPositions(OutputBuffer& out, const std::vector<const GPSData*>& drawn) {
+    for (const GPSData* sample : drawn) {
+        out << (sample == drawn.front() ? "\n  " : ",\n  ");
+        appendPosition(out.text(), *sample);
+        out.flushWhenFull();
+    }
+}
+
 void appendGeometry(OutputBuffer& out, const std::vector<const GPSData*>& drawn) {
     if (drawn.empty()) {
         out << "null";
@@ -57,11 +66,7 @@ void appendGeometry(OutputBuffer& out, const std::vector<const GPSData*>& drawn)
         return;
     }
     out << "{\"type\": \"LineString\", \"coordinates\": [";
-    for (const GPSData* sample : drawn) {
-        out << (sample == drawn.front() ? "\n  " : ",\n  ");
-        appendPosition(out.text(), *sample);
-        out.flushWhenFull();
-    }
+    appendPositions(out, drawn);
     out << "\n]}";
 }
 
@@ -143,11 +148,7 @@ void GeoJsonTrackWriter::segmentedTrack(std::string_view name, std::span<const N
     out_ << "{\"type\": \"MultiLineString\", \"coordinates\": [";
     for (const auto& line : lines) {
         out_ << (&line == &lines.front() ? "\n [" : ",\n [");
-        for (const GPSData* sample : line) {
-            out_ << (sample == line.front() ? "\n  " : ",\n  ");
-            appendPosition(out_.text(), *sample);
-            out_.flushWhenFull();
-        }
+        appendPositions(out_, line);
         out_ << "\n ]";
     }
     out_ << "\n]}}";

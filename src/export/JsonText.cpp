@@ -32,27 +32,19 @@ bool standsAsIs(char byte) {
 
 void appendJsonString(std::string& out, std::string_view text) {
     out += '"';
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t plainEnd =
-            std::size_t(std::find_if_not(text.begin() + std::ptrdiff_t(at), text.end(), standsAsIs) - text.begin());
-        out.append(text.substr(at, plainEnd - at));
-        at = plainEnd;
-        if (at == text.size()) break;
-
-        const Utf8Char c = nextUtf8Char(text, at);
-        at += c.length;
+    appendEscapedUtf8(out, text, standsAsIs, [](std::string& to, char32_t c) {
         const auto escape = std::find_if(kShortEscapes.begin(), kShortEscapes.end(),
-                                         [&](const auto& entry) { return entry.first == c.codePoint; });
+                                         [&](const auto& entry) { return entry.first == c; });
         if (escape != kShortEscapes.end()) {
-            out += escape->second;
-        } else if (c.codePoint < 0x20) {
+            to += escape->second;
+        } else if (c < 0x20) {
             char hex[8];
-            std::snprintf(hex, sizeof hex, "\\u%04x", unsigned(c.codePoint));
-            out += hex;
+            std::snprintf(hex, sizeof hex, "\\u%04x", unsigned(c));
+            to += hex;
         } else {
-            appendUtf8(out, c.codePoint);
+            appendUtf8(to, c);
         }
-    }
+    });
     out += '"';
 }
 

@@ -42,6 +42,15 @@ Utf8Char nextUtf8Char(std::string_view text, std::size_t at) {
     return {codePoint, length, true};
 }
 
+bool isValidUtf8(std::string_view text) {
+    for (std::size_t at = 0; at < text.size();) {
+        const Utf8Char c = nextUtf8Char(text, at);
+        if (!c.valid) return false;
+        at += c.length;
+    }
+    return true;
+}
+
 void appendUtf8(std::string& out, char32_t codePoint) {
     const auto put = [&](unsigned value) { out.push_back(static_cast<char>(value)); };
     if (codePoint < 0x80) {

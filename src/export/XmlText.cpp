@@ -29,22 +29,14 @@ bool standsAsIs(char byte) {
 }  // namespace
 
 void appendXmlEscaped(std::string& out, std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t plainEnd =
-            std::size_t(std::find_if_not(text.begin() + std::ptrdiff_t(at), text.end(), standsAsIs) - text.begin());
-        out.append(text.substr(at, plainEnd - at));
-        at = plainEnd;
-        if (at == text.size()) break;
-
-        const Utf8Char c = nextUtf8Char(text, at);
-        at += c.length;
-        const auto escape = std::find_if(kEscapes.begin(), kEscapes.end(),
-                                         [&](const auto& entry) { return entry.first == c.codePoint; });
+    appendEscapedUtf8(out, text, standsAsIs, [](std::string& to, char32_t c) {
+        const auto escape =
+            std::find_if(kEscapes.begin(), kEscapes.end(), [&](const auto& entry) { return entry.first == c; });
         if (escape != kEscapes.end())
-            out += escape->second;
+            to += escape->second;
         else
-            appendUtf8(out, allowedInXml(c.codePoint) ? c.codePoint : kReplacementCharacter);
-    }
+            appendUtf8(to, allowedInXml(c) ? c : kReplacementCharacter);
+    });
 }
 
 std::string xmlEscaped(std::string_view text) {

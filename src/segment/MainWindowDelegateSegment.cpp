@@ -61,7 +61,7 @@ void MainWindowDelegate::OnSaveSegment() {
         const std::filesystem::path& file = playlist.at(row).URL();
         request.clips.push_back({file, timelineClock_.durationOf(i)});
         // The tracks the window already holds: the player's for the loaded clip, else the catalog's.
-        PlayerTrack track;
+        ClipTrack track;
         if (static_cast<int64_t>(row) == curIndex && player != nullptr && player->gpsDataList())
             track = std::make_shared<const std::vector<GPSData>>(*player->gpsDataList());
         else if (const ClipRecord* record = clipCatalog_ != nullptr ? clipCatalog_->find(file) : nullptr)

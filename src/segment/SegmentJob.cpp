@@ -67,16 +67,16 @@ SegmentResult SegmentJob::run(const SegmentRequest& request, const Progress& pro
     const std::vector<SegmentOutput> outputs = plan.outputs(streams);
 
     const auto trackOf = [&](const SegmentPiece& piece) {
-        return piece.clip < request.tracks.size() ? request.tracks[piece.clip] : PlayerTrack();
+        return piece.clip < request.tracks.size() ? request.tracks[piece.clip] : ClipTrack();
     };
     PendingFiles pending;
     std::vector<SegmentPiece> cutPieces;
     std::vector<CutPiece> cuts;
-    std::vector<PlayerTrack> tracks;
+    std::vector<ClipTrack> tracks;
     for (std::size_t o = 0; o < outputs.size(); ++o) {
         const SegmentOutput& output = outputs[o];
         const SegmentPiece& first = output.pieces.front();
-        const PlayerTrack firstTrack = trackOf(first);
+        const ClipTrack firstTrack = trackOf(first);
         const std::optional<double> wall = firstTrack ? wallTimeAt(*firstTrack, first.inSeconds) : std::nullopt;
         const std::filesystem::path temporary = SegmentPlan::temporaryFileOf(output.file);
         pending.add(temporary, output.file);

@@ -17,7 +17,7 @@
 struct SegmentRequest {
     // The clips the timeline lays end to end, and each one's track (null where it has none).
     std::vector<SegmentClip> clips;
-    std::vector<PlayerTrack> tracks;
+    std::vector<ClipTrack> tracks;
     SegmentSpan span;
     std::filesystem::path movie;  // the name chosen for the movie
     SpeedUnit unit = SpeedUnit::KMH;

@@ -18,7 +18,7 @@ std::optional<double> wallTimeAt(const std::vector<GPSData>& track, double clipS
 }
 
 std::vector<NamedTrack> segmentTracks(std::span<const SegmentPiece> pieces, std::span<const CutPiece> cuts,
-                                      std::span<const PlayerTrack> tracks) {
+                                      std::span<const ClipTrack> tracks) {
     std::vector<NamedTrack> named;
     const std::size_t count = std::min({pieces.size(), cuts.size(), tracks.size()});
     for (std::size_t i = 0; i < count; ++i) {

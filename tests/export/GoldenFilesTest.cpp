@@ -2,22 +2,15 @@
 // the output shows up as a diff in review. After an intended change, regenerate with
 // DASHTRACK_UPDATE_GOLDEN=1 and read the diff before committing it.
 
+#include "TestFiles.h"
 #include "TestTracks.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
-#include <sstream>
 
 namespace {
-
-std::string readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
 
 // The documents the window's Export Track writes too: a single clip, and a trip of the sample
 // movies as one track with a segment each.

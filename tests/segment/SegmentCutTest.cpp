@@ -4,10 +4,12 @@
 #include "FFmpegHandles.h"
 #include "GPSDataLoader.h"
 #include "GpxReader.h"
+#include "OutputText.h"
 #include "RunCommand.h"
 #include "SampleClock.h"
 #include "SegmentJob.h"
 #include "TempDir.h"
+#include "TestFiles.h"
 
 extern "C" {
 #include <libavutil/parseutils.h>
@@ -16,7 +18,6 @@ extern "C" {
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <string>
 
 namespace {
@@ -26,7 +27,7 @@ constexpr double kClipSeconds = 20;
 // One frame at 15 frames a second, and a little.
 constexpr double kFrame = 0.07;
 
-PlayerTrack trackOf(const std::filesystem::path& clip) {
+ClipTrack trackOf(const std::filesystem::path& clip) {
     auto track = std::make_shared<std::vector<GPSData>>(1);
     const GPSTrack loaded = GPSDataLoader::LoadTrack(clip);
     track->insert(track->end(), loaded.samples.begin(), loaded.samples.end());
@@ -67,19 +68,8 @@ MovieFacts factsOf(const std::filesystem::path& movie) {
 
 // The camera's wall time at a second of a clip, from its first record (record k is at second k).
 double wallAt(const std::string& clip, double seconds) {
-    const PlayerTrack track = trackOf(kClips / clip);
+    const ClipTrack track = trackOf(kClips / clip);
     return double(*sampleClockSeconds((*track)[1].data().rmcinfo)) - 1 + seconds;
-}
-
-std::string textOf(const std::filesystem::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-std::size_t countOf(const std::string& text, const std::string& part) {
-    std::size_t count = 0;
-    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
-    return count;
 }
 
 TEST(SegmentCut, SavesSpansWithinAndAcrossClipsFromTheKeyframeBeforeTheStart) {
@@ -123,9 +113,9 @@ TEST(SegmentCut, SavesSpansWithinAndAcrossClipsFromTheKeyframeBeforeTheStart) {
             }
         }
         // The GPX: one segment per clip, from the cut's start to its end.
-        const std::string gpx = textOf(folder / "cut.gpx");
+        const std::string gpx = readFile(folder / "cut.gpx");
         EXPECT_EQ(result.files.back(), folder / "cut.gpx");
-        EXPECT_EQ(countOf(gpx, "<trkseg>"), row.trackSegments);
+        EXPECT_EQ(occurrences(gpx, "<trkseg>"), row.trackSegments);
         const std::vector<GPSFix> fixes = readGpxFixes(gpx);
         ASSERT_FALSE(fixes.empty());
         EXPECT_EQ(fixes.front().clockSeconds, start);
@@ -162,7 +152,7 @@ TEST(SegmentCut, LeavesNoFileWhenCancelledOrAClipIsGone) {
         std::size_t entries = 0;
         for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator(folder.path())) ++entries;
         EXPECT_EQ(entries, 1u) << "only the file that was there";
-        EXPECT_EQ(textOf(folder / "cut.mov"), "kept");
+        EXPECT_EQ(readFile(folder / "cut.mov"), "kept");
     }
 }
 

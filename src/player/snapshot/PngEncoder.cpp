@@ -1,5 +1,7 @@
 #include "PngEncoder.h"
 
+#include "Utf8.h"
+
 #include <png.h>
 #include <zlib.h>
 
@@ -59,40 +61,6 @@ bool isAscii(const std::string& text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 128; });
 }
 
-// Well-formed UTF-8: no stray continuation bytes, no overlong forms, surrogates or code points
-// past U+10FFFF.
-bool isUtf8(const std::string& text) {
-    std::size_t i = 0;
-    while (i < text.size()) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        std::size_t length = 0;
-        char32_t point = 0;
-        if (lead < 0x80) {
-            length = 1, point = lead;
-        } else if (lead >= 0xC2 && lead <= 0xDF) {
-            length = 2, point = lead & 0x1F;
-        } else if (lead >= 0xE0 && lead <= 0xEF) {
-            length = 3, point = lead & 0x0F;
-        } else if (lead >= 0xF0 && lead <= 0xF4) {
-            length = 4, point = lead & 0x07;
-        } else {
-            return false;
-        }
-        if (text.size() - i < length) return false;
-        for (std::size_t k = 1; k < length; ++k) {
-            const auto next = static_cast<unsigned char>(text[i + k]);
-            if ((next & 0xC0) != 0x80) return false;
-            point = (point << 6) | (next & 0x3F);
-        }
-        if ((length == 3 && (point < 0x800 || (point >= 0xD800 && point <= 0xDFFF))) ||
-            (length == 4 && (point < 0x10000 || point > 0x10FFFF))) {
-            return false;
-        }
-        i += length;
-    }
-    return true;
-}
-
 // The chunks as libpng takes them; they point into storage, whose strings stay where they are as
 // it grows.
 std::vector<png_text> textChunks(std::span<const PngText> texts, std::deque<std::string>& storage) {
@@ -108,7 +76,7 @@ std::vector<png_text> textChunks(std::span<const PngText> texts, std::deque<std:
         chunk.text = value.data();
         chunk.text_length = value.size();
         // A file name that is not UTF-8 stays as its bytes, which tEXt can hold.
-        chunk.compression = (!isAscii(value) && isUtf8(value)) ? PNG_ITXT_COMPRESSION_NONE : PNG_TEXT_COMPRESSION_NONE;
+        chunk.compression = (!isAscii(value) && isValidUtf8(value)) ? PNG_ITXT_COMPRESSION_NONE : PNG_TEXT_COMPRESSION_NONE;
         chunks.push_back(chunk);
     }
     return chunks;

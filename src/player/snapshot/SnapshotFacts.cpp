@@ -2,6 +2,7 @@
 
 #include "GPSData.h"
 #include "GPSUtils.h"
+#include "NumberText.h"
 
 #include <array>
 #include <charconv>
@@ -15,15 +16,6 @@ std::string fixed(double value, int precision) {
     std::array<char, 64> text;
     const auto result =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, precision);
-    if (result.ec != std::errc()) return "0";
-    return std::string(text.data(), result.ptr);
-}
-
-// The shortest text that reads back as the same float: the track holds coordinates as floats, and
-// digits past their precision would be noise.
-std::string shortestFixed(float value) {
-    std::array<char, 64> text;
-    const auto result = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
     if (result.ec != std::errc()) return "0";
     return std::string(text.data(), result.ptr);
 }
@@ -73,8 +65,10 @@ std::vector<PngText> SnapshotFacts::textChunks() const {
     std::vector<PngText> chunks{{"Software", "Dashtrack"}};
     if (sample_) {
         if (sample_->speed) chunks.push_back({"Speed", fixed(*sample_->speed, 2) + " " + sample_->unit});
-        chunks.push_back({"Latitude", shortestFixed(sample_->latitude)});
-        chunks.push_back({"Longitude", shortestFixed(sample_->longitude)});
+        // The shortest text that reads back as the same float: the track holds coordinates as
+        // floats, and digits past their precision would be noise.
+        chunks.push_back({"Latitude", shortestDecimal(sample_->latitude)});
+        chunks.push_back({"Longitude", shortestDecimal(sample_->longitude)});
         if (sample_->date && sample_->time) chunks.push_back({"DateTime", *sample_->date + "T" + *sample_->time});
     }
     chunks.push_back({"Source", source_.string()});
