@@ -3,6 +3,7 @@
 // other than our encoder reads back.
 
 #include "GPSData.h"
+#include "GPSSamples.h"
 #include "PngEncoder.h"
 #include "ResourceDirectory.h"
 #include "SnapshotFacts.h"
@@ -142,6 +143,15 @@ TEST(SnapshotFactsTest, TextChunksReadBackAndTheStampSaysTheSame) {
           {"Longitude", "2.2944813"},
           {"DateTime", "2024-05-01T12:34:56"}},
          {{"63", "KM/H"}, {"LAT 48.85837", ""}, {"LON 2.29448", ""}, {"2024-05-01 12:34:56", ""}}},
+        // Fixed-point records (and hour-shifted ones) keep four-digit years.
+        {"km/h, a four-digit year",
+         fixedPointSample(488583701, 22944813, 1600, {2024, 5, 1, 12, 34, 56}),
+         true,
+         {{"Speed", "66.29 KM/H"},
+          {"Latitude", "48.85837"},
+          {"Longitude", "2.2944813"},
+          {"DateTime", "2024-05-01T12:34:56"}},
+         {{"66", "KM/H"}, {"LAT 48.85837", ""}, {"LON 2.29448", ""}, {"2024-05-01 12:34:56", ""}}},
         {"mph, south-west, no clock",
          sampleAt(-33.8678, -151.25, std::nullopt),
          false,

@@ -3,10 +3,10 @@
 #include "GPSData.h"
 #include "GPSUtils.h"
 #include "NumberText.h"
+#include "SampleTime.h"
 
 #include <array>
 #include <charconv>
-#include <chrono>
 #include <cmath>
 
 namespace {
@@ -20,26 +20,10 @@ std::string fixed(double value, int precision) {
     return std::string(text.data(), result.ptr);
 }
 
-std::string twoDigits(unsigned value) { return std::string{char('0' + value / 10 % 10), char('0' + value % 10)}; }
 
 bool onTheGlobe(double latitude, double longitude) {
     return std::isfinite(latitude) && std::isfinite(longitude) && std::fabs(latitude) <= 90 &&
            std::fabs(longitude) <= 180 && !(latitude == 0 && longitude == 0);
-}
-
-// The sample's calendar date; nothing for a camera without a clock (all zero) or a date that
-// does not exist.
-std::optional<std::string> dateOf(const RMCINFO& f) {
-    using namespace std::chrono;
-    if (f.Year > 99) return std::nullopt;
-    const year_month_day date{year(2000 + int(f.Year)), month(f.Month), day(f.Day)};
-    if (f.Month > 12 || f.Day > 31 || !date.ok()) return std::nullopt;
-    return std::to_string(2000 + f.Year) + "-" + twoDigits(f.Month) + "-" + twoDigits(f.Day);
-}
-
-std::optional<std::string> timeOf(const RMCINFO& f) {
-    if (f.Hour > 23 || f.Minute > 59 || f.Second > 60) return std::nullopt;
-    return twoDigits(f.Hour) + ":" + twoDigits(f.Minute) + ":" + twoDigits(f.Second);
 }
 
 }  // namespace
@@ -56,8 +40,11 @@ SnapshotFacts::SnapshotFacts(const std::optional<GPSData>& sample, bool kilometr
     facts.latitude = sample->Latitude();
     facts.longitude = sample->Longitude();
     const RMCINFO record = sample->data().rmcinfo;
-    facts.date = dateOf(record);
-    if (facts.date) facts.time = timeOf(record);
+    // Read as the exports read it: two- and four-digit years alike (shifted records carry four).
+    if (const std::optional<std::string> iso = isoDateTime(record)) {
+        facts.date = iso->substr(0, 10);
+        facts.time = iso->substr(11);
+    }
     sample_ = std::move(facts);
 }
 
