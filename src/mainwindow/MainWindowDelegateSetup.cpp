@@ -71,7 +71,6 @@ void MainWindowDelegate::OnUnitChanged(QAction* sender) {
 void MainWindowDelegate::useUnit(uint64_t unitType) {
     settings_.setUnitType(unitType);
     setupPlaylistTable();
-    setupTimeline();
     RefreshMenu();
     RefreshUnits();
     // The timeline's speeds are in the unit too.

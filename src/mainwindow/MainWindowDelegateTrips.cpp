@@ -183,6 +183,7 @@ double MainWindowDelegate::currentClipSeconds() const {
 void MainWindowDelegate::setupTimeline() {
     TimelineView* timeline = outlets_.timeline;
     if (timeline == nullptr) return;
+    // Once, at set-up: every call adds a connection, and a click would then seek as many times.
     QObject::connect(timeline, &TimelineView::seekRequested, this, [this](double seconds) { seekTimeline(seconds); });
     timeline->setHoverTextProvider([this](double seconds) { return timelineHoverText(seconds); });
 }

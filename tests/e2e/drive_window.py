@@ -597,11 +597,7 @@ class Session:
         return table.queryTable().nRows
 
     def later_start_adds_to_this_window(self):
-        table = self.window.named("Playlist", (pyatspi.ROLE_TABLE, pyatspi.ROLE_TREE_TABLE))
-
-        def rows():
-            table.clear_cache()
-            return table.queryTable().nRows
+        rows = self.playlist_rows
         before = rows()
         later = Path(self.args.open[0]).parent / "later"
         later.mkdir(exist_ok=True)
@@ -628,6 +624,7 @@ class Session:
         if rows() != before + 1:
             raise Failure(f"expected --new-window to leave the running window's {before + 1} rows; saw {rows()}")
         print("e2e: --new-window played the clip in a window of its own and left the running one alone")
+
     def export_track_writes_gpx(self):
         """File, Export Track, Loaded Clip… into a GPX: the document dashtrack-gps writes for that
         clip, whose points exiftool reads back."""

@@ -2,6 +2,7 @@
 // The window's controller over loose widgets and a movie view whose player is scripted: every
 // outlet the transport commands touch, the playlist table, and a settings store of its own.
 
+#include "ClipCatalog.h"
 #include "FakeMediaPlayer.h"
 #include "GPSControlView.h"
 #include "GPSPlayerView.h"
@@ -18,6 +19,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <filesystem>
 #include <memory>
@@ -81,6 +83,10 @@ public:
         std::vector<std::filesystem::path> movies;
         for (int i = 0; i < count; ++i) movies.push_back(movie(i));
         controller.AddedMovies(nullptr, movies);
+    }
+    // Until the catalog has read every listed clip on its worker and handed it back.
+    bool waitForClipsRead() {
+        return QTest::qWaitFor([this] { return controller.clipCatalog()->pending() == 0; }, 20000);
     }
     // The scripted player's state is shared by every movie it loads: a stop pauses it, a play starts it.
     bool playing() const { return player->status == PlayerStatus::Playing; }

@@ -15,7 +15,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QImage>
@@ -38,14 +37,6 @@ public:
 
 class ControllerTest : public ControllerHarness, public ::testing::Test {
 protected:
-    // Lets queued results arrive; gives up after a generous while so that a lost result fails
-    // instead of hanging.
-    template <typename Done>
-    bool waitFor(Done done) {
-        const QDeadlineTimer deadline(20000);
-        while (!done() && !deadline.hasExpired()) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        return done();
-    }
     void report(const GPSData& sample, uint64_t index) { controller.UpdatedGPSInfo(view->engine(), sample, index); }
 };
 
@@ -308,7 +299,7 @@ TEST_F(ControllerTest, ChoosingOneFileAddsEveryMovieOfItsFolderAndPlaysTheOldest
     EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFiles);
     emit dialog->filesSelected({QString::fromStdString(movie(2).string())});
 
-    ASSERT_TRUE(waitFor([&] { return controller.playlist.size() == 4; })) << controller.playlist.size();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return controller.playlist.size() == 4; }, 20000)) << controller.playlist.size();
     EXPECT_EQ(controller.curIndex, 0);
     EXPECT_EQ(factory->requested.front(), movie(0));
     EXPECT_TRUE(playing());
@@ -420,10 +411,6 @@ TEST_F(ControllerTest, TheCarPointsWhereTheFormatSaysWhileItDrives) {
         ++index;
     }
 }
-
-}  // namespace
-
-namespace {
 
 // The Edit menu's position: the shown sample's place on the clipboard with six decimals, and
 // nothing to copy once the read-outs are idle.

@@ -160,7 +160,7 @@ TEST_F(PreferencesTest, TheRendererIsStoredForTheNextStart) {
 TEST_F(PreferencesTest, TheClockCorrectionMovesTheReadOutsAndTheTrips) {
     const std::filesystem::path clip = std::filesystem::path(TRIP_CLIP_DIR) / "a0.mov";
     controller.AddedMovies(nullptr, {clip});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return controller.clipCatalog()->pending() == 0; }, 20000));
+    ASSERT_TRUE(waitForClipsRead());
     const std::optional<int64_t> start = controller.clipCatalog()->find(clip)->facts.summary.firstSampleSeconds;
     ASSERT_TRUE(start.has_value());
     player->at(1.0);

@@ -4,11 +4,8 @@
 
 #include "ControllerHarness.h"
 
-#include "ClipCatalog.h"
 #include "GPSInfoPanel.h"
 #include "PlaylistTableModel.h"
-
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -33,7 +30,7 @@ protected:
     void openClips(bool continuous) {
         controller.OnContinuousPlayChanged(continuous);
         controller.AddedMovies(nullptr, clips_);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return controller.clipCatalog()->pending() == 0; }, 20000));
+        ASSERT_TRUE(waitForClipsRead());
     }
     // A playing movie reaches this time and the engine's tick reports it.
     void playTo(double seconds) {
@@ -184,7 +181,7 @@ TEST_F(TripControllerTest, TheTableShowsTripsOnceTheClipsHaveBeenRead) {
     for (int row = 0; row < 4; ++row)
         EXPECT_FALSE(rowData(row, PlaylistTableModel::TripNumberRole).isValid()) << "nothing read yet: " << row;
 
-    ASSERT_TRUE(QTest::qWaitFor([this] { return controller.clipCatalog()->pending() == 0; }, 20000));
+    ASSERT_TRUE(waitForClipsRead());
     const struct {
         int trip;
         bool starts;

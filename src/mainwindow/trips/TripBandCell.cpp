@@ -73,12 +73,7 @@ void TripBandCell::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     }
     GPSTextCell::paint(painter, cell, index);
 
-    if (!firstColumn) {
-        if (index.data(PlaylistTableModel::StartsTripRole).toBool() && index.row() > 0)
-            painter->fillRect(QRect(option.rect.left(), option.rect.top(), option.rect.width(), 1), QColor(255, 255, 255, 90));
-        return;
-    }
-    if (tripNumber.isValid())
+    if (firstColumn && tripNumber.isValid())
         painter->fillRect(QRect(option.rect.left(), option.rect.top(), kBandWidth, option.rect.height()),
                           bandColour(tripNumber.toInt()));
     if (index.data(PlaylistTableModel::StartsTripRole).toBool() && index.row() > 0)

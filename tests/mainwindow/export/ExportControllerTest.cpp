@@ -3,8 +3,6 @@
 
 #include "ControllerHarness.h"
 
-#include "ClipCatalog.h"
-
 #include <QAction>
 #include <QFileDialog>
 #include <QMenu>
@@ -31,7 +29,7 @@ protected:
     // Lists the files, which plays the first, and waits until the catalog has read them all.
     void open(const std::vector<std::filesystem::path>& files) {
         controller.AddedMovies(nullptr, files);
-        ASSERT_TRUE(QTest::qWaitFor([this] { return controller.clipCatalog()->pending() == 0; }));
+        ASSERT_TRUE(waitForClipsRead());
         controller.RefreshExportMenu();
     }
     std::vector<bool> offered() const {
