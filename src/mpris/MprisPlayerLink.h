@@ -63,5 +63,6 @@ private:
     QPointer<QWidget> window_;
     QPointer<GPSControlView> controlView_;
     QTimer changeWatch_;
-    QVariantMap published_;
+    // The state the last report described.
+    MprisPlayerState published_;
 };
