@@ -6,8 +6,6 @@ install(TARGETS dashtrack-gps RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(TARGETS dashtrack-gps-probe LIBRARY DESTINATION ${DASHTRACK_INSTALL_MODULEDIR})
 install(FILES ${PROJECT_SOURCE_DIR}/resources/Env.plist DESTINATION ${DASHTRACK_INSTALL_RESOURCEDIR})
 
-set(DASHTRACK_FULL_RESOURCEDIR ${CMAKE_INSTALL_FULL_DATADIR}/dashtrack)
-set(DASHTRACK_FULL_MODULEDIR ${CMAKE_INSTALL_FULL_LIBDIR}/dashtrack)
 # A manual page with this build's version and paths, compressed as Debian installs them.
 function(dashtrack_install_man_page name)
   set(page ${CMAKE_BINARY_DIR}/man/${name}.1)

@@ -6,6 +6,8 @@
 #include <QLocalSocket>
 #include <QTimer>
 
+#include <memory>
+
 namespace {
 
 // A start that connects and then says nothing is cut off after this long.
@@ -30,17 +32,21 @@ bool InstanceServer::listen(const std::string& socketPath) {
 void InstanceServer::accept() {
     while (QLocalSocket* socket = server_.nextPendingConnection()) {
         connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        connect(socket, &QLocalSocket::readyRead, this, [this, socket] { read(*socket); });
+        // What this connection has sent so far, held by the connection below: it goes with the socket.
+        auto received = std::make_shared<QByteArray>();
+        connect(socket, &QLocalSocket::readyRead, this, [this, socket, received] { read(*socket, *received); });
         QTimer::singleShot(kSilentClientMilliseconds, socket, [socket] { socket->abort(); });
         // Bytes that came with the connection raise no readyRead of their own.
-        if (socket->bytesAvailable() > 0) read(*socket);
+        if (socket->bytesAvailable() > 0) read(*socket, *received);
     }
 }
 
-void InstanceServer::read(QLocalSocket& socket) {
-    // The socket's own buffer holds what came so far; nothing is taken until it is all there.
-    const QByteArray bytes = socket.peek(socket.bytesAvailable());
-    const HandOverMessage::Decoded message = HandOverMessage::decode(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
+void InstanceServer::read(QLocalSocket& socket, QByteArray& received) {
+    // Only the new bytes are copied: a message that arrives in many pieces is not copied whole
+    // once per piece, and the decoder tells an incomplete one from its header alone.
+    received += socket.readAll();
+    const HandOverMessage::Decoded message =
+        HandOverMessage::decode(std::string_view(received.constData(), static_cast<size_t>(received.size())));
     switch (message.status) {
     case HandOverMessage::Status::Incomplete:
         return;
@@ -48,7 +54,8 @@ void InstanceServer::read(QLocalSocket& socket) {
         socket.abort();
         return;
     case HandOverMessage::Status::Complete:
-        socket.readAll();
+        // Whatever follows is read as a message of its own.
+        received.clear();
         socket.write(&kReceived, 1);
         socket.flush();
         emit pathsArrived(message.paths);

@@ -2,6 +2,7 @@
 // The running window's end of the hand-over: listens on the instance socket and reports the paths
 // each later start sends. A socket left by a program that died is taken over.
 
+#include <QByteArray>
 #include <QLocalServer>
 #include <QObject>
 
@@ -27,7 +28,8 @@ signals:
 
 private:
     void accept();
-    void read(QLocalSocket& socket);
+    // Adds what the socket has to what it sent before, and acts once that is a whole message.
+    void read(QLocalSocket& socket, QByteArray& received);
 
     QLocalServer server_;
 };

@@ -155,13 +155,16 @@ void MprisPlayerLink::quit() {
 }
 
 void MprisPlayerLink::startWatching() {
-    published_ = MprisProperties::changingProperties(state());
+    published_ = state();
     changeWatch_.start();
 }
 
 void MprisPlayerLink::reportChanges() {
-    QVariantMap now = MprisProperties::changingProperties(state());
-    const QVariantMap changed = MprisProperties::changed(published_, now);
+    // Most ticks nothing has moved: the plain state is compared before any property is built.
+    MprisPlayerState now = state();
+    if (now == published_) return;
+    const QVariantMap changed = MprisProperties::changed(MprisProperties::changingProperties(published_),
+                                                         MprisProperties::changingProperties(now));
     published_ = std::move(now);
     if (!changed.isEmpty()) emit playerPropertiesChanged(changed);
 }

@@ -2,7 +2,8 @@
 // The player as desktop media controls see it: reads the window's controller and engine into an
 // MprisPlayerState, and turns their requests into the window's own commands. Transport requests
 // are play control codes sent to the key-handling view's delegate, as the keys and the Playback
-// menu send them, so the same guards apply; seeks and volume go through the sliders' own handlers.
+// menu send them, so the same guards apply; the volume goes through its slider's own handler, and
+// seeks go to the engine, finer than the position slider's steps.
 // The D-Bus adaptors are attached to this object.
 
 #include "MprisPlayerState.h"
@@ -55,7 +56,7 @@ signals:
 private:
     GPSPlayerEngine* engine() const;
     void send(uint64_t playControl);
-    // Moves the position slider and runs its handler, as a drag of the knob would.
+    // Seeks the engine to the exact time and lets the controls follow, as after a drag of the knob.
     void seekToSeconds(double seconds);
     void reportChanges();
 
@@ -63,5 +64,6 @@ private:
     QPointer<QWidget> window_;
     QPointer<GPSControlView> controlView_;
     QTimer changeWatch_;
-    QVariantMap published_;
+    // The state the last report described.
+    MprisPlayerState published_;
 };

@@ -60,8 +60,4 @@ TEST(ResourceDirectory, AProgramWithoutAFolderHasNone) {
     EXPECT_EQ(resourceDirectoryOf(""), std::nullopt);
 }
 
-TEST(ResourceDirectory, TheTestsFindTheirOwnBuildTree) {
-    EXPECT_TRUE(std::filesystem::equivalent(resourceDirectory(), DASHTRACK_RESOURCE_BUILD_DIR));
-}
-
 }  // namespace

@@ -264,8 +264,6 @@ TEST_F(TranslationCoverageTest, AnOpenPreferencesDialogFollowsTheLanguage) {
         {"languageJananese",
          {"環境設定", "±HH:MM の形式で、-23:59～+23:59 の範囲で入力してください。", "閉じる", "OpenStreetMap",
           "オフラインで作業"}},
-        {"languageVietnamese",
-         {"Tùy chọn", "Dùng dạng ±HH:MM, từ -23:59 đến +23:59.", "Đóng", "OpenStreetMap", "Làm việc ngoại tuyến"}},
         {"languageEnglish",
          {"Preferences", "Use ±HH:MM, from -23:59 to +23:59.", "Close", "OpenStreetMap", "Work Offline"}},
     };

@@ -108,15 +108,6 @@ TEST_F(GPSUtilsSettings, ChangesGoToTheUserCopyAndReachTheNextRun) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(user.parent_path()), {}), 1);
 }
 
-TEST_F(GPSUtilsSettings, SnapshotStampIsOffUntilTurnedOnAndThenStaysOn) {
-    writeFile(shipped, plistDictionary("<key>UnitType</key><integer>1</integer>"));
-    for (const bool on : {true, false}) {
-        GPSUtils(location()).setStampSnapshots(on);
-        EXPECT_EQ(GPSUtils(location()).stampSnapshots(), on);
-    }
-    EXPECT_FALSE(GPSUtils({.userFile = directory / "none", .shippedFile = shipped}).stampSnapshots());
-}
-
 TEST_F(GPSUtilsSettings, UnreadableUserCopyIsNeverOverwritten) {
     const struct {
         const char* name;
