@@ -3,12 +3,14 @@
 #include "MprisPlayerLink.h"
 #include "MprisProperties.h"
 
+#include <QGuiApplication>
+
 MprisRootAdaptor::MprisRootAdaptor(MprisPlayerLink& link) : QDBusAbstractAdaptor(&link), link_(link) {}
 
 QString MprisRootAdaptor::identity() const { return QStringLiteral("Dashtrack"); }
 
-// The launcher entry resources/ installs, without its ".desktop".
-QString MprisRootAdaptor::desktopEntry() const { return QStringLiteral("dashtrack"); }
+// The installed desktop entry's name without its ".desktop": the one the window names itself by.
+QString MprisRootAdaptor::desktopEntry() const { return QGuiApplication::desktopFileName(); }
 
 QStringList MprisRootAdaptor::supportedUriSchemes() const { return {QStringLiteral("file")}; }
 

@@ -543,6 +543,12 @@ class Session:
         players = run("playerctl", "--list-all").split()
         if "dashtrack" not in players:
             raise Failure(f"expected playerctl to list dashtrack; saw {players}")
+        # Desktops find the player's icon and name through the desktop entry it names.
+        entry = run("dbus-send", "--session", "--print-reply", "--dest=org.mpris.MediaPlayer2.dashtrack",
+                    "/org/mpris/MediaPlayer2", "org.freedesktop.DBus.Properties.Get",
+                    "string:org.mpris.MediaPlayer2", "string:DesktopEntry")
+        if '"io.github.dashtrack.Dashtrack"' not in entry:
+            raise Failure(f"expected the desktop entry io.github.dashtrack.Dashtrack; saw {entry!r}")
         self.playerctl_status("Paused")
         self.playerctl("play-pause")
         self.playerctl_status("Playing")

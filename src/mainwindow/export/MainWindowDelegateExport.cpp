@@ -15,10 +15,8 @@
 
 #include <QAction>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
@@ -133,10 +131,11 @@ void MainWindowDelegate::startExport(ExportScope scope, const QString& file, con
     const std::vector<TripSpan> spans = exportSpans(scope);
     if (exporting_ || spans.empty()) return;
     TrackExportRequest request{.tracks = {}, .format = format, .unit = speedUnitOf(settings_), .target = QFile::encodeName(file).toStdString()};
+    const int clockCorrection = settings_.clockCorrectionMinutes();
     for (const TripSpan& span : spans) {
         ExportTrack track{tripName(tripIndex_, span.first), {}};
         for (std::size_t row = span.first; row < span.first + span.count; ++row)
-            track.clips.push_back(exportClip(clipCatalog_, playlist.at(row).URL(), settings_.clockCorrectionMinutes()));
+            track.clips.push_back(exportClip(clipCatalog_, playlist.at(row).URL(), clockCorrection));
         request.tracks.push_back(std::move(track));
     }
     auto job = std::make_shared<const TrackExportJob>(std::move(request));
